@@ -1,0 +1,82 @@
+# How every target of the house is built: language, warnings, sanitizers, and the three shapes of target.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
+endif()
+
+if(VEXAL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(VEXAL_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(VEXAL_FUZZ)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Core)
+else()
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick)
+endif()
+find_package(simdjson REQUIRED)
+find_package(Threads REQUIRED)
+
+# Our own code is held to these; what Qt's tools generate is not ours to mend.
+set(VEXAL_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Werror)
+
+function(vexal_own target)
+  target_compile_options(${target} PRIVATE ${VEXAL_WARNINGS})
+  target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+                                               QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+endfunction()
+
+# vexal_library(name SOURCES ... USES ...): one folder of src as a library. USES is the arrow of the house: what is not
+# named there cannot be included.
+function(vexal_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;USES;PRIVATELY" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_PRIVATELY})
+  vexal_own(${name})
+endfunction()
+
+# vexal_screens(name URI uri QML ... SOURCES ... USES ...): one place of the window as a QML module and its C++.
+function(vexal_screens name)
+  cmake_parse_arguments(arg "" "URI" "QML;SINGLETONS;SOURCES;RESOURCES;USES;IMPORTS" ${ARGN})
+  foreach(file IN LISTS arg_SINGLETONS)
+    set_source_files_properties(${file} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+  endforeach()
+  qt_add_qml_module(${name} STATIC
+    URI ${arg_URI} VERSION 1.0 RESOURCE_PREFIX /qt-project.org/imports
+    OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${arg_URI}
+    QML_FILES ${arg_SINGLETONS} ${arg_QML} SOURCES ${arg_SOURCES} RESOURCES ${arg_RESOURCES} IMPORTS ${arg_IMPORTS})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC Qt6::Quick ${arg_USES})
+  target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+  foreach(file IN LISTS arg_SOURCES)
+    if(file MATCHES "\\.cpp$")
+      set_source_files_properties(${file} PROPERTIES COMPILE_OPTIONS "${VEXAL_WARNINGS}")
+    endif()
+  endforeach()
+endfunction()
+
+# vexal_test(name SOURCES ... USES ...): a test program that ctest runs.
+function(vexal_test name)
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;USES" ${ARGN})
+  add_executable(test_${name} ${arg_SOURCES})
+  target_link_libraries(test_${name} PRIVATE Qt6::Test ${arg_USES})
+  vexal_own(test_${name})
+  add_test(NAME ${name} COMMAND test_${name})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()
