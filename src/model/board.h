@@ -106,9 +106,9 @@ struct Page
     std::optional<double> h;
     std::optional<QString> img;
     std::optional<QString> thumb;
-    std::optional<QList<double>> px;             ///< Pixel size of the image: width, height.
-    std::optional<QMap<QString, RefPage>> refs;  ///< Matching page of each of our files, by `Ref::role`.
-    std::optional<bool> ocr;                     ///< The page's text was read from its picture.
+    std::optional<QList<double>> px;            ///< Pixel size of the image: width, height.
+    std::optional<QMap<QString, RefPage>> refs; ///< Matching page of each of our files, by `Ref::role`.
+    std::optional<bool> ocr;                    ///< The page's text was read from its picture.
     bool operator==(const Page &) const = default;
 };
 VEXAL_FIELDS(Page, i, label, w, h, img, thumb, px, refs, ocr)
@@ -141,8 +141,8 @@ struct FileItem
     std::optional<QList<Page>> pages;
     bool operator==(const FileItem &) const = default;
 };
-VEXAL_FIELDS(FileItem, id, key, po, title, component, supplier, filename, kind, sender, received, page_count, links, refs,
-             summary, counts, status, status_by, status_at, created, rev, thumb, tally, pages)
+VEXAL_FIELDS(FileItem, id, key, po, title, component, supplier, filename, kind, sender, received, page_count, links,
+             refs, summary, counts, status, status_by, status_at, created, rev, thumb, tally, pages)
 
 /// One automated check result on a page.
 struct Finding
@@ -157,17 +157,17 @@ struct Finding
     std::optional<QString> detail;
     std::optional<QString> before;
     std::optional<QString> after;
-    std::optional<Box> box;            ///< Place on the supplier page.
-    std::optional<Box> ref_box;        ///< Place on our page.
-    std::optional<QList<Box>> boxes;   ///< Further places of the same finding.
-    QString state;                     ///< "open", "issue" or "fine".
+    std::optional<Box> box;          ///< Place on the supplier page.
+    std::optional<Box> ref_box;      ///< Place on our page.
+    std::optional<QList<Box>> boxes; ///< Further places of the same finding.
+    QString state;                   ///< "open", "issue" or "fine".
     std::optional<QString> state_by;
     std::optional<double> state_at;
     std::optional<qint64> ord;
     bool operator==(const Finding &) const = default;
 };
-VEXAL_FIELDS(Finding, id, file_id, page, against, kind, severity, title, detail, before, after, box, ref_box, boxes, state,
-             state_by, state_at, ord)
+VEXAL_FIELDS(Finding, id, file_id, page, against, kind, severity, title, detail, before, after, box, ref_box, boxes,
+             state, state_by, state_at, ord)
 
 /// One person's note: on a page, pinned at a point, on a finding, or (without a page) on the whole file.
 struct Note

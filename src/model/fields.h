@@ -2,8 +2,8 @@
 
 #include <tuple>
 
-/// VEXAL_FIELDS(Record, field, ...) names the fields of a record once. Decoding, encoding and hashing walk that list, so
-/// a field that is named there is read, written and hashed, and its name is its key on the wire.
+/// VEXAL_FIELDS(Record, field, ...) names the fields of a record once. Decoding, encoding and hashing walk that list,
+/// so a field that is named there is read, written and hashed, and its name is its key on the wire.
 namespace vexal {
 
 /// One field of a record: its key on the wire and where it lives.
@@ -28,12 +28,12 @@ constexpr Field<Record, Value> field(const char *key, Value Record::*member)
 #define VEXAL_EXPAND2(...) VEXAL_EXPAND1(VEXAL_EXPAND1(VEXAL_EXPAND1(__VA_ARGS__)))
 #define VEXAL_EXPAND1(...) __VA_ARGS__
 #define VEXAL_PARENS ()
-#define VEXAL_FIELD(Record, name, ...)                                                                                  \
+#define VEXAL_FIELD(Record, name, ...)                                                                                 \
     ::vexal::field(#name, &Record::name) __VA_OPT__(, VEXAL_FIELD_AGAIN VEXAL_PARENS(Record, __VA_ARGS__))
 #define VEXAL_FIELD_AGAIN() VEXAL_FIELD
 
-#define VEXAL_FIELDS(Record, ...)                                                                                       \
-    constexpr auto fieldsOf(const Record *)                                                                             \
-    {                                                                                                                   \
-        return std::make_tuple(VEXAL_EXPAND(VEXAL_FIELD(Record, __VA_ARGS__)));                                         \
+#define VEXAL_FIELDS(Record, ...)                                                                                      \
+    constexpr auto fieldsOf(const Record *)                                                                            \
+    {                                                                                                                  \
+        return std::make_tuple(VEXAL_EXPAND(VEXAL_FIELD(Record, __VA_ARGS__)));                                        \
     }
