@@ -30,7 +30,7 @@ find_package(simdjson REQUIRED)
 find_package(Threads REQUIRED)
 
 # Our own code is held to these; what Qt's tools generate is not ours to mend.
-set(VEXAL_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Werror)
+set(VEXAL_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wno-missing-field-initializers -Werror)
 
 function(vexal_own target)
   target_compile_options(${target} PRIVATE ${VEXAL_WARNINGS})
@@ -49,15 +49,18 @@ function(vexal_library name)
 endfunction()
 
 # vexal_screens(name URI uri QML ... SOURCES ... USES ...): one place of the window as a QML module and its C++.
+# DERIVES names the modules whose C++ items the C++ items here derive from.
 function(vexal_screens name)
-  cmake_parse_arguments(arg "" "URI" "QML;SINGLETONS;SOURCES;RESOURCES;USES;IMPORTS" ${ARGN})
+  cmake_parse_arguments(arg "" "URI" "QML;SINGLETONS;SOURCES;RESOURCES;USES;IMPORTS;DERIVES" ${ARGN})
+  string(REPLACE . / path ${arg_URI})
   foreach(file IN LISTS arg_SINGLETONS)
     set_source_files_properties(${file} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
   endforeach()
   qt_add_qml_module(${name} STATIC
     URI ${arg_URI} VERSION 1.0 RESOURCE_PREFIX /qt-project.org/imports
-    OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${arg_URI}
-    QML_FILES ${arg_SINGLETONS} ${arg_QML} SOURCES ${arg_SOURCES} RESOURCES ${arg_RESOURCES} IMPORTS ${arg_IMPORTS})
+    OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${path}
+    QML_FILES ${arg_SINGLETONS} ${arg_QML} SOURCES ${arg_SOURCES} RESOURCES ${arg_RESOURCES}
+    DEPENDENCIES QtQuick ${arg_DERIVES} IMPORTS ${arg_IMPORTS})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC Qt6::Quick ${arg_USES})
   target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
@@ -65,6 +68,14 @@ function(vexal_screens name)
     if(file MATCHES "\\.cpp$")
       set_source_files_properties(${file} PROPERTIES COMPILE_OPTIONS "${VEXAL_WARNINGS}")
     endif()
+  endforeach()
+endfunction()
+
+# vexal_shows(program screens...): links places of the window into a program, their QML types included: a static module
+# registers itself through its plugin, which nothing else names.
+function(vexal_shows program)
+  foreach(screens IN LISTS ARGN)
+    target_link_libraries(${program} PRIVATE ${screens} ${screens}plugin)
   endforeach()
 endfunction()
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields.h"
+#include "hash.h"
 
 #include <QList>
 #include <QMap>
@@ -319,5 +320,11 @@ struct Sample
     bool operator==(const Sample &) const = default;
 };
 VEXAL_FIELDS(Sample, board, details)
+
+/// Says \a then(Record) for each record above.
+#define VEXAL_EACH_RECORD(then)                                                                                        \
+    then(Me) then(Person) then(Links) then(Ref) then(Counts) then(Tally) then(RefPage) then(Page) then(FileItem)       \
+        then(Finding) then(Note) then(FileDetail) then(Summary) then(JobResult) then(JobArgs) then(Job) then(Report)   \
+            then(Event) then(BoardState) then(VersionInfo) then(SignInAnswer) then(Sample)
 
 } // namespace vexal
