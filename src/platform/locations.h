@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace vexal {
+
+/// The folder in which pictures outlast a run: "Vexal/img" in the person's caches. It may not exist yet.
+QString picturesFolder();
+
+} // namespace vexal
