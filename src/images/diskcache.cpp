@@ -1,0 +1,86 @@
+#include "diskcache.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace vexal {
+
+namespace {
+
+constexpr qsizetype longestName = 255; ///< Bytes, on every file system that desktops use.
+constexpr qint64 tailSize = 64;
+
+// Whether a file ends as its format ends: a copy that broke off does not. Formats without a mark at their end pass.
+bool isWhole(QFile &file)
+{
+    const QByteArray head = file.read(4);
+    file.seek(std::max<qint64>(0, file.size() - tailSize));
+    const QByteArray tail = file.readAll();
+    if (head.startsWith("\xff\xd8"))
+        return tail.contains("\xff\xd9");
+    if (head.startsWith("\x89PNG"))
+        return tail.contains("IEND");
+    return true;
+}
+
+} // namespace
+
+std::optional<QString> cacheFileName(const QString &key)
+{
+    QString name = key;
+    name.replace(u'/', u'_');
+    const bool usable = !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(QChar(u'\0'));
+    if (!usable || name.toUtf8().size() > longestName)
+        return std::nullopt;
+    return name;
+}
+
+DiskCache::DiskCache(const QString &folder)
+    : m_folder(folder)
+{
+    if (!m_folder.isEmpty())
+        QDir().mkpath(m_folder);
+}
+
+QString DiskCache::pathOf(const QString &key)
+{
+    const auto name = cacheFileName(key);
+    if (m_folder.isEmpty() || !name)
+        return {};
+    if (!m_keyOfName.contains(*name))
+        m_keyOfName.insert(*name, key);
+    return m_keyOfName.value(*name) == key ? m_folder + u'/' + *name : QString();
+}
+
+std::optional<Picture> DiskCache::read(const QString &key)
+{
+    const QString path = pathOf(key);
+    if (path.isEmpty())
+        return std::nullopt;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !isWhole(file))
+        return std::nullopt;
+    return Picture::fromFile(path);
+}
+
+std::optional<Picture> DiskCache::write(const QString &key, const QByteArray &bytes)
+{
+    const QString path = pathOf(key);
+    if (path.isEmpty())
+        return std::nullopt;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return std::nullopt;
+    return Picture::fromFile(path);
+}
+
+void DiskCache::remove(const QString &key)
+{
+    if (const QString path = pathOf(key); !path.isEmpty())
+        QFile::remove(path);
+}
+
+} // namespace vexal

@@ -1,0 +1,111 @@
+#include "images.h"
+
+#include <QDirIterator>
+
+using namespace Qt::StringLiterals;
+
+namespace vexal {
+
+Images::Images(const QString &dir, Fetch fetch, QObject *parent)
+    : QObject(parent)
+    , m_disk(dir)
+    , m_fetch(std::move(fetch))
+{
+    m_workers.setMaxThreadCount(2);
+}
+
+Images::~Images()
+{
+    m_workers.waitForDone();
+}
+
+std::optional<Picture> Images::cached(const QString &key)
+{
+    for (const auto *known : {&m_samples, &m_memory}) {
+        if (const auto found = known->constFind(key); found != known->cend())
+            return *found;
+    }
+    auto picture = m_disk.read(key);
+    if (picture)
+        remember(key, *picture);
+    return picture;
+}
+
+void Images::image(const QString &key, QObject *context, const Done &done)
+{
+    if (key.isEmpty())
+        return done(std::nullopt);
+    if (const auto picture = cached(key))
+        return done(picture);
+    const bool underWay = m_inflight.contains(key);
+    m_inflight[key].append({context, done});
+    if (!underWay)
+        download(key);
+}
+
+void Images::download(const QString &key)
+{
+    m_fetch(key, this, [this, key](const std::optional<QByteArray> &bytes) {
+        if (bytes)
+            check(key, *bytes);
+        else
+            settle(key, std::nullopt);
+    });
+}
+
+// Bytes are a picture when their pixels can be read; only then are they kept.
+void Images::check(const QString &key, const QByteArray &bytes)
+{
+    const auto picture = Picture::fromBytes(bytes);
+    if (!picture)
+        return settle(key, std::nullopt);
+    m_workers.start([this, key, bytes, picture] {
+        const bool reads = !picture->decoded(picture->size()).isNull();
+        const auto checked = [this, key, bytes, picture, reads] {
+            if (!reads)
+                return settle(key, std::nullopt);
+            const auto kept = m_disk.write(key, bytes);
+            settle(key, kept ? kept : picture);
+        };
+        QMetaObject::invokeMethod(this, checked, Qt::QueuedConnection);
+    });
+}
+
+void Images::settle(const QString &key, const std::optional<Picture> &picture)
+{
+    const QList<Waiter> waiters = m_inflight.take(key);
+    if (picture)
+        remember(key, *picture);
+    for (const Waiter &waiter : waiters) {
+        if (waiter.context)
+            waiter.done(picture);
+    }
+}
+
+void Images::remember(const QString &key, const Picture &picture)
+{
+    if (m_memory.size() > mostInMemory)
+        m_memory.clear();
+    m_memory.insert(key, picture);
+}
+
+void Images::addSamples(const QString &folder)
+{
+    QDirIterator files(folder, {u"*.jpg"_s, u"*.png"_s}, QDir::Files | QDir::CaseSensitive);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (const auto picture = Picture::fromFile(path))
+            m_samples.insert(files.fileName().replace(u'_', u'/'), *picture);
+    }
+}
+
+bool Images::spoiled(const QString &key)
+{
+    m_memory.remove(key);
+    m_disk.remove(key);
+    const bool again = !m_spoiled.contains(key) && !m_samples.contains(key);
+    m_spoiled.insert(key);
+    return again;
+}
+
+} // namespace vexal

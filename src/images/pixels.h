@@ -1,0 +1,95 @@
+#pragma once
+
+#include "picture.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QThreadPool>
+
+#include <functional>
+
+namespace vexal {
+
+/// The one place where decoded pixels are held, within a budget of bytes. What somebody still shows is never given up;
+/// of the rest the level that was not wanted for longest goes first. Workers decode; answers arrive on the
+/// user-interface thread.
+class Pixels : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What all levels together may take, in bytes.
+    static constexpr qint64 budget = 512LL * 1024 * 1024;
+
+    /// How soon a level is needed.
+    enum class Urgency {
+        Ahead, ///< It may be shown next.
+        Shown, ///< Somebody is looking at its place.
+    };
+
+    using Done = std::function<void(const QImage &)>;
+
+    explicit Pixels(qint64 bytes = budget, QObject *parent = nullptr);
+    /// Waits for the workers.
+    ~Pixels() override;
+
+    /// The size at which a picture is decoded to be shown at a size in device pixels: that size, or its own where that
+    /// is not larger.
+    static QSize levelFor(const Picture &picture, QSize shown);
+
+    /// A picture's level that is held; null when it is not.
+    QImage held(const Picture &picture, QSize level);
+    /// Answers a level: at once when it is held, else when it is decoded; null when the picture turns out to be none.
+    /// Nothing is answered to a context that has gone, and what nobody waits for any more is not begun.
+    void load(const Picture &picture, QSize level, Urgency urgency, QObject *context, const Done &done);
+
+    /// Bytes of all levels that are held.
+    qint64 bytes() const { return m_bytes; }
+
+private:
+    struct Key
+    {
+        quint64 picture = 0;
+        QSize size;
+        bool operator==(const Key &) const = default;
+    };
+    friend size_t qHash(const Key &key, size_t seed)
+    {
+        return qHashMulti(seed, key.picture, key.size.width(), key.size.height());
+    }
+    struct Level
+    {
+        QImage image;
+        quint64 wanted = 0;
+    };
+    struct Waiter
+    {
+        QPointer<QObject> context;
+        Done done;
+    };
+    struct Job
+    {
+        std::optional<Picture> picture;
+        Urgency urgency = Urgency::Ahead;
+        bool running = false;
+        QList<Waiter> waiters;
+    };
+
+    void startNext();
+    bool takeNext(Key &next);
+    void finish(const Key &key, const QImage &image);
+    void keep(const Key &key, const QImage &image);
+    void giveUp(qint64 bytes);
+
+    qint64 m_budget;
+    qint64 m_bytes = 0;
+    quint64 m_wanted = 0;
+    int m_running = 0;
+    QHash<Key, Level> m_levels;
+    QHash<Key, Job> m_jobs;
+    QList<Key> m_queue; ///< Of jobs that are not running, in the order in which they came.
+    QThreadPool m_workers;
+};
+
+} // namespace vexal
