@@ -16,6 +16,7 @@ class RowList : public QAbstractListModel
 {
 public:
     static constexpr int rowRole = Qt::UserRole;
+    static constexpr int sectionRole = Qt::UserRole + 1;
     static constexpr int mostMoves = 64;
 
     using QAbstractListModel::QAbstractListModel;
@@ -26,12 +27,16 @@ public:
 
     QVariant data(const QModelIndex &index, int role) const override
     {
-        if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != rowRole)
+        if (!checkIndex(index, CheckIndexOption::IndexIsValid))
             return {};
-        return QVariant::fromValue(m_rows[index.row()]);
+        if constexpr (requires(const Row &row) { row.section; }) {
+            if (role == sectionRole)
+                return m_rows[index.row()].section;
+        }
+        return role == rowRole ? QVariant::fromValue(m_rows[index.row()]) : QVariant();
     }
 
-    QHash<int, QByteArray> roleNames() const override { return {{rowRole, "row"}}; }
+    QHash<int, QByteArray> roleNames() const override { return {{rowRole, "row"}, {sectionRole, "section"}}; }
 
     /// Makes the list show these rows. Of rows with the same key the first counts.
     void setRows(QList<Row> rows)
@@ -172,7 +177,7 @@ private:
             qsizetype last = first;
             for (; last < rows.size() && m_rows[last] != rows[last]; ++last)
                 m_rows[last] = rows[last];
-            Q_EMIT this->dataChanged(index(int(first)), index(int(last - 1)), {rowRole});
+            Q_EMIT this->dataChanged(index(int(first)), index(int(last - 1)), {rowRole, sectionRole});
             first = last;
         }
     }

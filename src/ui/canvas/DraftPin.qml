@@ -1,0 +1,71 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vexal.Pieces
+import Vexal.Canvas
+
+/// The pin of the note being written: its tip is at the item's origin. It pulses about its tip while it is looked at.
+Item {
+    id: root
+
+    readonly property bool pulse: root.visible && Theme.lively && !Theme.reducedMotion
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: "Note"
+
+    PinShape {
+        id: pin
+        x: -width / 2
+        y: -height
+        color: Theme.accent.solid
+        outline: Theme.onSolid
+        plus: true
+        transformOrigin: Item.Bottom
+
+        SequentialAnimation on scale {
+            running: root.pulse
+            loops: Animation.Infinite
+            NumberAnimation {
+                from: 1
+                to: 1.12
+                duration: 900
+                easing.type: Easing.InOutQuad
+            }
+            NumberAnimation {
+                from: 1.12
+                to: 1
+                duration: 900
+                easing.type: Easing.InOutQuad
+            }
+        }
+    }
+    Rectangle {
+        x: 17
+        y: -29
+        width: words.width + 22
+        height: 24
+        radius: 12
+        color: Theme.toast
+        border.width: 1
+        border.color: Theme.toastRing
+
+        Row {
+            id: words
+            anchors.centerIn: parent
+            spacing: 5
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "mappin.and.ellipse"
+                size: 12
+                color: Theme.toastText
+            }
+            Label {
+                anchors.verticalCenter: parent.verticalCenter
+                text: "Note"
+                size: 11.5
+                weight: Font.DemiBold
+                color: Theme.toastText
+                spoken: false
+            }
+        }
+    }
+}

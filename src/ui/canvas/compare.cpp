@@ -1,0 +1,115 @@
+#include "compare.h"
+
+#include "derived.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace vexal {
+
+namespace {
+
+constexpr qreal sideInset = 18;
+constexpr qreal footInset = 14;
+constexpr qreal betweenPanes = 18;
+constexpr qreal labelRow = 22;
+constexpr qreal narrowestAspect = 0.2;
+constexpr qreal markOutside = 3;
+constexpr qreal smallestMark = 8;
+
+const QString submitted = u"submitted"_s;
+const QString latest = u"latest"_s;
+
+} // namespace
+
+QStringList comparableRoles()
+{
+    return {submitted, latest};
+}
+
+QString roleLabel(const QString &role)
+{
+    return role == submitted ? u"What we sent"_s : u"Last print"_s;
+}
+
+QString rolePhrase(const QString &role)
+{
+    return role == submitted ? u"what we sent"_s : u"the last print"_s;
+}
+
+QStringList rolesOffered(const Page &page)
+{
+    QStringList offered;
+    if (!page.refs)
+        return offered;
+    for (const QString &role : comparableRoles()) {
+        if (page.refs->contains(role))
+            offered.append(role);
+    }
+    return offered;
+}
+
+QString roleChosen(const QStringList &offered, const QString &wanted)
+{
+    if (offered.isEmpty() || offered.contains(wanted))
+        return wanted;
+    return offered.first();
+}
+
+qreal referenceAspect(const RefPage &reference, qreal supplierAspect)
+{
+    const auto &px = reference.px;
+    return px && px->size() == 2 && px->at(1) > 0 ? px->at(0) / px->at(1) : supplierAspect;
+}
+
+QString supplierPaneLabel(const FileItem &file, const Page &page)
+{
+    const QString supplier = file.supplier.value_or(QString());
+    return (supplier.isEmpty() ? u"Supplier"_s : supplier) + u" file · p"_s + pageLabel(page);
+}
+
+QString missingHeading(const QString &role)
+{
+    return role == submitted ? u"No file of ours for this page"_s : u"No last print for this page"_s;
+}
+
+QSizeF sideBySideBox(QSizeF canvas)
+{
+    const QSizeF single = singleBox(canvas);
+    return {(single.width() - betweenPanes) / 2, single.height()};
+}
+
+QSizeF singleBox(QSizeF canvas)
+{
+    return {canvas.width() - 2 * sideInset, canvas.height() - 2 * footInset - labelRow};
+}
+
+QSizeF fittedPage(QSizeF box, qreal aspect)
+{
+    const qreal ratio = std::max(aspect, narrowestAspect);
+    const QSizeF wide(box.width(), box.width() / ratio);
+    const QSizeF page = wide.height() <= box.height() ? wide : QSizeF(box.height() * ratio, box.height());
+    return page.expandedTo({1, 1});
+}
+
+bool drawnOn(const Finding &finding, qint64 page, const QString &role)
+{
+    return finding.page == page && (finding.against == role || finding.kind == "hidden"_L1);
+}
+
+bool isQuiet(const Finding &finding)
+{
+    return finding.state == "fine"_L1 || finding.kind == "pass"_L1 || finding.kind == "expected"_L1;
+}
+
+QRectF boxOnPane(const Box &box, QSizeF pane)
+{
+    if (box.size() != 4)
+        return {};
+    return {box[0] * pane.width() - markOutside, box[1] * pane.height() - markOutside,
+            std::max(box[2] * pane.width() + 2 * markOutside, smallestMark),
+            std::max(box[3] * pane.height() + 2 * markOutside, smallestMark)};
+}
+
+} // namespace vexal

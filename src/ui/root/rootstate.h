@@ -1,0 +1,73 @@
+#pragma once
+
+#include "store.h"
+
+#include <QtQml/qqmlregistration.h>
+
+namespace vexal {
+
+/// What the window shows beside the sidebar, kept in step with the store.
+class RootState : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(vexal::Store *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
+    Q_PROPERTY(vexal::RootState::Place place READ place NOTIFY changed FINAL)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString emptyLine READ emptyLine NOTIFY changed FINAL)
+    Q_PROPERTY(QString toastId READ toastId NOTIFY toastChanged FINAL)
+    Q_PROPERTY(QString toastText READ toastText NOTIFY toastChanged FINAL)
+    Q_PROPERTY(QString undoLabel READ undoLabel NOTIFY toastChanged FINAL)
+    Q_PROPERTY(QString emailDomain READ emailDomain CONSTANT FINAL)
+    Q_PROPERTY(QString dedication READ dedication CONSTANT FINAL)
+
+public:
+    /// What the detail column holds.
+    enum Place { Loading, NothingChosen, OneFile, SeveralFiles };
+    Q_ENUM(Place)
+
+    explicit RootState(QObject *parent = nullptr);
+
+    Store *store() const { return m_store; }
+    void setStore(Store *store);
+
+    Place place() const { return m_place; }
+    /// "Pick a file.", or "Nothing to review yet." for a board without files.
+    QString emptyTitle() const;
+    /// What to do about it.
+    QString emptyLine() const;
+
+    /// The toast on screen; all empty without one.
+    QString toastId() const { return m_toast.id.isNull() ? QString() : m_toast.id.toString(); }
+    QString toastText() const { return m_toast.text; }
+    QString undoLabel() const { return m_toast.undoLabel.value_or(QString()); }
+    /// Takes the toast of that id away; a younger one stays.
+    Q_INVOKABLE void clearToast(const QString &id);
+    /// Does what the toast's button promises.
+    Q_INVOKABLE void undoToast();
+
+    /// What the sign-in screen says of this deployment.
+    QString emailDomain() const;
+    QString dedication() const;
+    /// Asks the store to sign the person in.
+    Q_INVOKABLE void signIn();
+
+Q_SIGNALS:
+    void storeChanged();
+    void changed();
+    void toastChanged();
+
+private:
+    void update();
+    void updateToast();
+
+    Store *m_store = nullptr;
+    Place m_place = Loading;
+    bool m_anyFile = false;
+    Toast m_toast;
+};
+
+/// Which place a store's selection and board lead to.
+RootState::Place placeOf(const Store &store);
+
+} // namespace vexal

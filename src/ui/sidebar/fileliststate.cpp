@@ -1,0 +1,32 @@
+#include "fileliststate.h"
+
+namespace vexal {
+
+FileListState::FileListState(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void FileListState::setStore(Store *store)
+{
+    if (m_store == store)
+        return;
+    m_store = store;
+    connect(store, &Store::boardChanged, this, &FileListState::update);
+    connect(store, &Store::selectionChanged, this, &FileListState::update);
+    Q_EMIT storeChanged();
+    update();
+}
+
+void FileListState::update()
+{
+    const auto &board = m_store->board();
+    const QList<FileItem> files = board ? board->files : QList<FileItem>();
+    m_rows.setRows(fileRows(files, m_store->selection()));
+    if (m_empty == files.isEmpty())
+        return;
+    m_empty = files.isEmpty();
+    Q_EMIT emptyChanged();
+}
+
+} // namespace vexal

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "filerow.h"
+#include "rowlist.h"
+#include "store.h"
+
+namespace vexal {
+
+/// The sidebar's list of files, kept in step with the store.
+class FileListState : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(vexal::Store *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
+    Q_PROPERTY(QAbstractListModel *rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
+
+public:
+    explicit FileListState(QObject *parent = nullptr);
+
+    Store *store() const { return m_store; }
+    void setStore(Store *store);
+
+    /// The files as rows of `fileRow`.
+    QAbstractListModel *rows() { return &m_rows; }
+    /// There is no board, or none with files.
+    bool empty() const { return m_empty; }
+
+Q_SIGNALS:
+    void storeChanged();
+    void emptyChanged();
+
+private:
+    void update();
+
+    Store *m_store = nullptr;
+    RowList<FileRow> m_rows;
+    bool m_empty = true;
+};
+
+} // namespace vexal

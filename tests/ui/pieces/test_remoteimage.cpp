@@ -1,0 +1,179 @@
+#include "pictures.h"
+#include "screen.h"
+#include "testclock.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vexal;
+using test::Screen;
+
+namespace {
+
+const QByteArray pictureQml = R"(
+import QtQuick
+import Vexal.Pieces
+Rectangle {
+    color: "white"
+    RemoteImage {
+        objectName: "picture"
+        width: 100
+        height: 100
+    }
+}
+)";
+
+} // namespace
+
+/// The item that shows the picture of a blob key, drawn in a real window.
+class RemoteImageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFittedPictureLiesInTheMiddle();
+    void aFillingPictureIsCropped();
+    void placesFollowFromTheSizes();
+    void aPictureIsShownOnceItCame();
+    void anotherKeyShowsNothingOfTheOld();
+    void aLateAnswerForAnOlderKeyIsNotShown();
+    void noKeyShowsNothing();
+    void roundCornersLetTheGroundThrough();
+    void aPictureShownLargerIsDecodedLarger();
+    void anItemThatGoesWhileItsPictureComesLeavesNoTrace();
+
+private:
+    void show(Images::Fetch fetch)
+    {
+        m_screen = std::make_unique<Screen>(m_store, pictureQml, QSize(200, 200), std::move(fetch));
+        m_picture = m_screen->window().rootObject()->findChild<RemoteImage *>(u"picture"_s);
+    }
+    static Images::Fetch always(const QByteArray &bytes)
+    {
+        return [bytes](const QString &, QObject *, const Images::Fetched &fetched) { fetched(bytes); };
+    }
+    QColor at(int x, int y) { return m_screen->window().grabWindow().pixelColor(x, y); }
+
+    Store m_store{TestClock().clock()};
+    std::unique_ptr<Screen> m_screen;
+    RemoteImage *m_picture = nullptr;
+};
+
+void RemoteImageTest::aFittedPictureLiesInTheMiddle()
+{
+    show(always(test::pictureBytes({200, 100}, Qt::red)));
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(Qt::red));
+    QCOMPARE(at(50, 10), QColor(Qt::white));
+    QCOMPARE(at(50, 90), QColor(Qt::white));
+}
+
+void RemoteImageTest::aFillingPictureIsCropped()
+{
+    show(always(test::pictureBytes({200, 100}, Qt::red)));
+    m_picture->setFill(true);
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 10), QColor(Qt::red));
+    QCOMPARE(at(5, 50), QColor(Qt::red));
+    QCOMPARE(at(110, 50), QColor(Qt::white));
+}
+
+void RemoteImageTest::placesFollowFromTheSizes()
+{
+    QCOMPARE(placed({200, 100}, {100, 100}, false), (Placement{QRectF(0, 0, 200, 100), QRectF(0, 25, 100, 50)}));
+    QCOMPARE(placed({200, 100}, {100, 100}, true), (Placement{QRectF(50, 0, 100, 100), QRectF(0, 0, 100, 100)}));
+    QCOMPARE(placed({100, 200}, {100, 100}, false), (Placement{QRectF(0, 0, 100, 200), QRectF(25, 0, 50, 100)}));
+    QCOMPARE(placed({100, 200}, {100, 100}, true), (Placement{QRectF(0, 50, 100, 100), QRectF(0, 0, 100, 100)}));
+}
+
+void RemoteImageTest::aPictureIsShownOnceItCame()
+{
+    std::function<void()> answer;
+    show([&answer](const QString &, QObject *, const Images::Fetched &fetched) {
+        answer = [fetched] { fetched(test::pictureBytes({50, 50}, Qt::blue)); };
+    });
+    m_picture->setKey(u"a"_s);
+    QVERIFY(!m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(Qt::white));
+    answer();
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(Qt::blue));
+}
+
+void RemoteImageTest::anotherKeyShowsNothingOfTheOld()
+{
+    show([](const QString &key, QObject *, const Images::Fetched &fetched) {
+        if (key == u"a"_s)
+            fetched(test::pictureBytes({50, 50}, Qt::blue));
+    });
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    m_picture->setKey(u"b"_s);
+    QVERIFY(!m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(Qt::white));
+    m_picture->setKey(u"a"_s);
+    QVERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(Qt::blue));
+}
+
+void RemoteImageTest::aLateAnswerForAnOlderKeyIsNotShown()
+{
+    QHash<QString, std::function<void()>> answers;
+    show([&answers](const QString &key, QObject *, const Images::Fetched &fetched) {
+        const QColor colour = key == u"old"_s ? Qt::red : Qt::green;
+        answers.insert(key, [fetched, colour] { fetched(test::pictureBytes({50, 50}, colour)); });
+    });
+    m_picture->setKey(u"old"_s);
+    m_picture->setKey(u"new"_s);
+    answers.value(u"new"_s)();
+    QTRY_VERIFY(m_picture->hasPicture());
+    answers.value(u"old"_s)();
+    QTRY_VERIFY(m_screen->images().cached(u"old"_s));
+    QCOMPARE(at(50, 50), QColor(Qt::green));
+}
+
+void RemoteImageTest::noKeyShowsNothing()
+{
+    show(always(test::pictureBytes({50, 50}, Qt::blue)));
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    m_picture->setKey({});
+    QVERIFY(!m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(Qt::white));
+}
+
+void RemoteImageTest::roundCornersLetTheGroundThrough()
+{
+    show(always(test::pictureBytes({100, 100}, Qt::blue)));
+    m_picture->setRadius(50);
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(2, 2), QColor(Qt::white));
+    QCOMPARE(at(50, 50), QColor(Qt::blue));
+}
+
+void RemoteImageTest::aPictureShownLargerIsDecodedLarger()
+{
+    show(always(test::pictureBytes({800, 800}, Qt::blue)));
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    Pixels &pixels = m_screen->images().pixels();
+    QCOMPARE(pixels.bytes(), 100 * 100 * 4);
+    m_picture->setSize({180, 180});
+    QTRY_COMPARE(pixels.bytes(), 100 * 100 * 4 + 180 * 180 * 4);
+    QVERIFY(m_picture->hasPicture());
+}
+
+void RemoteImageTest::anItemThatGoesWhileItsPictureComesLeavesNoTrace()
+{
+    show(always(test::pictureBytes({800, 800}, Qt::blue)));
+    m_picture->setKey(u"a"_s);
+    delete m_picture;
+    QTRY_VERIFY(m_screen->images().cached(u"a"_s));
+    m_screen->window().grabWindow();
+}
+
+QTEST_MAIN(RemoteImageTest)
+#include "test_remoteimage.moc"

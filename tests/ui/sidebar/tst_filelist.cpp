@@ -1,0 +1,166 @@
+#include "boards.h"
+#include "fileliststate.h"
+#include "screen.h"
+#include "testclock.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vexal;
+using test::Screen;
+
+namespace {
+
+const QByteArray listQml = R"(
+import QtQuick
+import Vexal.Pieces
+import Vexal.Sidebar
+FileList {
+    focus: true
+    state: FileListState { store: Store }
+}
+)";
+
+} // namespace
+
+class FileListTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aClickSelectsAFileAlone();
+    void aClickWithCommandAddsAndTakesAway();
+    void takingTheOnlyOneAwayEmptiesTheSelection();
+    void aClickLetsGoOfTheFocus();
+    void theKeyboardReachesEveryRow();
+    void sectionsHaveTheirHeadings();
+    void anEmptyBoardSaysWhatToDo();
+    void aNewBoardMovesRowsAndBuildsNone();
+    void longNamesAreCutNotSpilled();
+
+private:
+    QStringList keys() const;
+    QQuickItem *row(const QString &key) const;
+
+    TestClock m_clock;
+    std::unique_ptr<Store> m_store;
+    std::unique_ptr<Screen> m_screen;
+};
+
+void FileListTest::init()
+{
+    m_screen.reset();
+    m_store = std::make_unique<Store>(m_clock.clock());
+    m_store->takeBoard(aBoard({aFile(u"a"_s), aFile(u"b"_s), aFile(u"c"_s, u"reviewed"_s)}));
+    m_screen = std::make_unique<Screen>(*m_store, listQml, QSize(288, 600));
+}
+
+QStringList FileListTest::keys() const
+{
+    QMap<qreal, QString> byPlace;
+    for (const QQuickItem *row : m_screen->all("FileRow"))
+        byPlace.insert(row->mapToScene({}).y(), row->property("row").value<FileRow>().key);
+    return byPlace.values();
+}
+
+QQuickItem *FileListTest::row(const QString &key) const
+{
+    for (QQuickItem *row : m_screen->all("FileRow")) {
+        if (row->property("row").value<FileRow>().key == key)
+            return row;
+    }
+    return nullptr;
+}
+
+void FileListTest::aClickSelectsAFileAlone()
+{
+    m_screen->click(row(u"b"_s));
+    QCOMPARE(m_store->selection(), QSet<QString>{u"b"_s});
+    QVERIFY(row(u"b"_s)->property("row").value<FileRow>().selected);
+    QVERIFY(!row(u"a"_s)->property("row").value<FileRow>().selected);
+}
+
+void FileListTest::aClickWithCommandAddsAndTakesAway()
+{
+    m_screen->click(row(u"b"_s), Qt::ControlModifier);
+    QCOMPARE(m_store->selection(), QSet<QString>({u"a"_s, u"b"_s}));
+    m_screen->click(row(u"a"_s), Qt::ControlModifier);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"b"_s});
+}
+
+void FileListTest::takingTheOnlyOneAwayEmptiesTheSelection()
+{
+    m_screen->click(row(u"a"_s), Qt::ControlModifier);
+    QVERIFY(m_store->selection().isEmpty());
+}
+
+void FileListTest::aClickLetsGoOfTheFocus()
+{
+    m_store->focusFinding(u"x"_s);
+    m_screen->click(row(u"a"_s));
+    QVERIFY(!m_store->focus());
+}
+
+void FileListTest::theKeyboardReachesEveryRow()
+{
+    m_screen->press(Qt::Key_Down);
+    m_screen->press(Qt::Key_Down);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"a"_s});
+    m_screen->press(Qt::Key_Return);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"c"_s});
+    m_screen->press(Qt::Key_Up);
+    m_screen->press(Qt::Key_Space);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"b"_s});
+}
+
+void FileListTest::sectionsHaveTheirHeadings()
+{
+    QStringList headings;
+    for (const QQuickItem *heading : m_screen->all("SectionHeader"))
+        headings.append(heading->property("section").toString());
+    headings.removeDuplicates();
+    headings.sort();
+    QCOMPARE(headings, QStringList({u"Reviewed"_s, u"To review"_s}));
+    QVERIFY(m_screen->texts().contains(u"TO REVIEW"_s));
+}
+
+void FileListTest::anEmptyBoardSaysWhatToDo()
+{
+    m_store->takeBoard(aBoard({}, 2));
+    QVERIFY(m_screen->texts().contains(u"Nothing to review."_s));
+    QVERIFY(m_screen->texts().contains(u"Press Sync to check supplier mail."_s));
+    QVERIFY(m_screen->all("FileRow").isEmpty());
+}
+
+void FileListTest::aNewBoardMovesRowsAndBuildsNone()
+{
+    QSet<QQuickItem *> before;
+    for (QQuickItem *row : m_screen->all("FileRow"))
+        before.insert(row);
+    m_store->takeBoard(aBoard({aFile(u"a"_s, u"reviewed"_s), aFile(u"b"_s), aFile(u"c"_s, u"new"_s)}, 2));
+    QTRY_COMPARE(keys(), QStringList({u"b"_s, u"c"_s, u"a"_s}));
+    QSet<QQuickItem *> after;
+    for (QQuickItem *row : m_screen->all("FileRow"))
+        after.insert(row);
+    QCOMPARE(after, before);
+}
+
+void FileListTest::longNamesAreCutNotSpilled()
+{
+    FileItem file = aFile(u"a"_s);
+    file.title = QString(10000, u'w');
+    file.supplier = u"<i>"_s + QString(500, u's');
+    file.tally = Tally{.open = 1234};
+    m_store->takeBoard(aBoard({file}, 2));
+    QTRY_COMPARE(m_screen->all("FileRow").size(), 1);
+    const QQuickItem *row = m_screen->only("FileRow");
+    for (const QQuickItem *label : m_screen->all("Label")) {
+        const QRectF place = label->mapRectToItem(row, label->boundingRect());
+        QVERIFY2(place.left() >= 0 && place.right() <= row->width(),
+                 qPrintable(label->property("text").toString().left(40)));
+    }
+}
+
+QTEST_MAIN(FileListTest)
+#include "tst_filelist.moc"
