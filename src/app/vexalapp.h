@@ -1,0 +1,56 @@
+#pragma once
+
+#include "clock.h"
+#include "images.h"
+#include "launchoptions.h"
+#include "store.h"
+
+#include <QQmlEngine>
+#include <QQuickView>
+
+#include <memory>
+
+namespace vexal {
+
+/// What a run of the program is made of: real parts in the client, others in the demo and in tests.
+struct Parts
+{
+    Clock clock;
+    QString pictureFolder; ///< Where pictures are kept between runs.
+    Images::Fetch fetch;   ///< How the bytes of a picture are had.
+};
+
+/// The running application: the one store, the one picture cache and the one window, joined.
+class VexalApp
+{
+public:
+    explicit VexalApp(Parts parts);
+    ~VexalApp();
+
+    Store &store() { return m_store; }
+    Images &images() { return m_images; }
+    QQuickView &window() { return m_window; }
+
+    /// Makes what a photograph shows the same each time: the program's own typeface, nothing that moves, the asked size
+    /// and appearance, out of reach of a window manager.
+    void pose(const LaunchOptions &options);
+    /// Puts a sample board and its pictures in the place of a server's.
+    void showSample(Sample sample, const QString &folder);
+    /// Opens the window.
+    void show();
+
+private:
+    Store m_store;
+    Images m_images;
+    QQmlEngine m_engine;
+    QQuickView m_window;
+};
+
+/// What has to be said to Qt before the application object is made.
+void prepareProcess();
+
+/// Waits until the screens have settled, photographs the window to the path and ends the program with the capture's
+/// status.
+void captureWhenSettled(const QString &path);
+
+} // namespace vexal
