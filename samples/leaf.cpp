@@ -111,9 +111,9 @@ private:
     QString write(const QString &sign, const QImage &picture)
     {
         const bool flat = m_leaf.flat && sign != "t"_L1;
-        const QString key = u"%1/%2%3.%4"_s.arg(m_plan.file.id, sign)
-                                .arg(m_index + 1, 2, 10, QChar(u'0'))
-                                .arg(flat ? u"png"_s : u"jpg"_s);
+        QString key = u"%1/%2%3.%4"_s.arg(m_plan.file.id, sign)
+                          .arg(m_index + 1, 2, 10, QChar(u'0'))
+                          .arg(flat ? u"png"_s : u"jpg"_s);
         if (!picture.save(m_folder + u'/' + fileOfKey(key), flat ? "PNG" : "JPG", flat ? -1 : 88))
             m_out.unwritten.append(key);
         return key;

@@ -86,7 +86,7 @@ int main(int argc, char **argv)
         errors << "usage: make-sample FOLDER" << Qt::endl;
         return 2;
     }
-    const QString folder = arguments.at(1);
+    const QString &folder = arguments.at(1);
     if (QDir().mkpath(folder + u"/inbox"_s) && writeSample(folder) && writeInbox(folder + u"/inbox"_s))
         return 0;
     errors << "The sample board is not complete in " << folder << Qt::endl;

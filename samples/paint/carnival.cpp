@@ -113,7 +113,8 @@ void crowd(Canvas &canvas, const QRectF &area, quint64 seed, const QColor &colou
 {
     Dice dice(seed);
     const auto clip = canvas.clipped(box(area));
-    for (double x = area.left() - 20; x < area.right() + 20; x += dice.between(22, 40)) {
+    double x = area.left() - 20;
+    while (x < area.right() + 20) {
         const double size = dice.between(0.8, 1.2) * area.height() * 0.27;
         const QPointF head(x, area.bottom() - dice.between(0.35, 0.62) * area.height());
         canvas.fill(circle(head, size * 0.5), colour);
@@ -133,6 +134,7 @@ void crowd(Canvas &canvas, const QRectF &area, quint64 seed, const QColor &colou
         default:
             break;
         }
+        x += dice.between(22, 40);
     }
 }
 

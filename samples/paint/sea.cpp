@@ -97,41 +97,53 @@ void waves(Canvas &canvas, const QRectF &area, int rows, const QColor &far, cons
     }
 }
 
+namespace {
+
+/// A gable over the wall from x to x + 100, stepped or pointed.
+void gable(Canvas &canvas, double x, double top, bool stepped, const QColor &wall, const QColor &roof)
+{
+    if (!stepped) {
+        canvas.fill(polygon({{x - 4, top}, {x + 50, top - 62}, {x + 104, top}}), roof);
+        return;
+    }
+    QPolygonF steps;
+    steps << QPointF(x, top) << QPointF(x, top - 22) << QPointF(x + 22, top - 22) << QPointF(x + 22, top - 46)
+          << QPointF(x + 40, top - 46) << QPointF(x + 40, top - 66) << QPointF(x + 60, top - 66)
+          << QPointF(x + 60, top - 46) << QPointF(x + 78, top - 46) << QPointF(x + 78, top - 22)
+          << QPointF(x + 100, top - 22) << QPointF(x + 100, top);
+    canvas.fill(polygon(steps), mix(wall, Qt::white, 0.1));
+}
+
+/// Two windows a floor, some of them lit.
+void windows(Canvas &canvas, double x, double top, qsizetype house, const QColor &wall, const QColor &window)
+{
+    const int floors = qCeil((-80 - top) / 44);
+    for (int floor = 0; floor < floors; ++floor)
+        for (const double dx : {20.0, 58.0}) {
+            const double y = top + 20 + 44.0 * floor;
+            const bool lit = (qRound(y + dx) + house) % 3 == 0;
+            canvas.fill(box({x + dx, y, 22, 28}, 2), lit ? window : mix(wall, ink(0x27384A), 0.72));
+            canvas.stroke(outline("M11 0 V28 M0 13 H22"_L1).translated(x + dx, y), mix(wall, Qt::white, 0.5), 2,
+                          Qt::FlatCap);
+        }
+}
+
+} // namespace
+
 void quay(Canvas &canvas, QPointF at, double width, const QList<QColor> &walls, const QColor &roof,
           const QColor &window)
 {
-    const auto placed = canvas.placed(at, width / (100 * static_cast<double>(walls.size())));
+    const double half = 50.0 * static_cast<double>(walls.size());
+    const auto placed = canvas.placed(at, width / (2 * half));
     for (qsizetype i = 0; i < walls.size(); ++i) {
-        const double x = 100.0 * static_cast<double>(i) - 50.0 * static_cast<double>(walls.size());
+        const double x = 100.0 * static_cast<double>(i) - half;
         const double top = -150 - 34.0 * static_cast<double>((i * 7) % 4);
         const QColor wall = walls.at(i);
         canvas.fill(box({x, top, 100, -top}), wall);
         canvas.fill(box({x + 82, top, 18, -top}), mix(wall, Qt::black, 0.1));
-        if (i % 3 == 0) // a stepped gable
-            canvas.fill(polygon({{x, top},
-                                 {x, top - 22},
-                                 {x + 22, top - 22},
-                                 {x + 22, top - 46},
-                                 {x + 40, top - 46},
-                                 {x + 40, top - 66},
-                                 {x + 60, top - 66},
-                                 {x + 60, top - 46},
-                                 {x + 78, top - 46},
-                                 {x + 78, top - 22},
-                                 {x + 100, top - 22},
-                                 {x + 100, top}}),
-                        mix(wall, Qt::white, 0.1));
-        else
-            canvas.fill(polygon({{x - 4, top}, {x + 50, top - 62}, {x + 104, top}}),
-                        i % 2 == 0 ? roof : mix(roof, Qt::black, 0.16));
+        gable(canvas, x, top, i % 3 == 0, wall, i % 2 == 0 ? roof : mix(roof, Qt::black, 0.16));
         canvas.fill(circle({x + 50, top - 22}, 8), mix(wall, Qt::black, 0.45));
-        for (double y = top + 20; y < -60; y += 44)
-            for (const double dx : {20.0, 58.0}) {
-                canvas.fill(box({x + dx, y, 22, 28}, 2),
-                            (qRound(y + dx) + i) % 3 == 0 ? window : mix(wall, ink(0x27384A), 0.72));
-                canvas.stroke(outline("M11 0 V28 M0 13 H22"_L1).translated(x + dx, y), mix(wall, Qt::white, 0.5), 2,
-                              Qt::FlatCap);
-            }
+        windows(canvas, x, top, i, wall, window);
         canvas.fill(outline("M-13 0 V-34 C-13 -46 13 -46 13 -34 V0 Z"_L1).translated(x + 50, 0),
                     mix(wall, Qt::black, 0.5));
     }

@@ -61,8 +61,8 @@ Sheet calendar()
     Dice dice(984);
     for (int i = 1; i <= 24; ++i) {
         const int cell = (i * 7) % 24;
-        const QPointF at(150.0 + 340 * (cell % 6) + dice.between(0, 120),
-                         330.0 + 270 * (cell / 6) + dice.between(0, 90));
+        const int row = cell / 6;
+        const QPointF at(150.0 + 340 * (cell % 6) + dice.between(0, 120), 330.0 + 270 * row + dice.between(0, 90));
         const QString number = QString::number(i);
         sheet.add(u"door %1"_s.arg(i), [at](Canvas &c) {
             QPen dashes(ink(0xFFFFFF, 0.9), 4, Qt::CustomDashLine, Qt::FlatCap);

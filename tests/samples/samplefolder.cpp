@@ -34,7 +34,8 @@ QString SampleFolder::read()
         return sample.error.text();
     m_sample = *sample;
     const QJsonObject inbox = QJsonDocument::fromJson(bytes(u"inbox/inbox.json"_s)).object();
-    for (const QJsonValue &one : inbox.value(u"details"_s).toArray()) {
+    const QJsonArray details = inbox.value(u"details"_s).toArray();
+    for (const auto &one : details) {
         const Decoded<FileDetail> detail = decode<FileDetail>(QJsonDocument(one.toObject()).toJson());
         if (!detail)
             return detail.error.text();
