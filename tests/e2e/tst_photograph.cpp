@@ -123,7 +123,7 @@ void PhotographTest::darkIsDarker()
 void PhotographTest::eachStateLooksDifferent()
 {
     const QImage plain = picture(u"plain.png"_s, {u"--sample"_s, m_sample});
-    for (const char *flag : {"--multi", "--focus", "--pin"}) {
+    for (const char *flag : {"--multi", "--focus", "--activity", "--pin"}) {
         const QString name = QLatin1StringView(flag);
         QVERIFY2(picture(name + u".png"_s, {u"--sample"_s, m_sample, name}) != plain, flag);
     }

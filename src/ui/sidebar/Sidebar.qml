@@ -8,6 +8,8 @@ Rectangle {
     id: root
 
     color: Theme.sidebar
+    // The activity list reaches over what stands beside the column.
+    z: 1
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Board"
@@ -15,6 +17,17 @@ Rectangle {
     SidebarState {
         id: sidebar
         store: Store
+        time: PassingTime
+    }
+    SyncState {
+        id: sync
+        store: Store
+        time: PassingTime
+    }
+    ActivityState {
+        id: activity
+        store: Store
+        time: PassingTime
     }
     FileListState {
         id: files
@@ -42,9 +55,19 @@ Rectangle {
             tone: sidebar.liveTone
         }
     }
+    SyncCard {
+        id: card
+        anchors.top: header.bottom
+        x: 12
+        width: parent.width - 24
+        state: sync
+        // The files keep the larger part of the column.
+        mostUnfolded: 0.4 * root.height
+    }
     Rule {
         id: upper
-        anchors.top: header.bottom
+        anchors.top: card.bottom
+        anchors.topMargin: card.filled ? 10 : 0
         width: parent.width
     }
     FileList {
@@ -64,5 +87,15 @@ Rectangle {
         anchors.bottom: parent.bottom
         width: parent.width
         people: sidebar.people
+    }
+    ActivityView {
+        state: activity
+        open: Store.showActivity
+        opener: people.opener
+        arrowAt: people.opener.x + people.opener.width / 2 - x
+        x: people.opener.x - 21
+        y: people.y + people.opener.y - 6 - arrowHeight - height
+        mostHeight: Math.min(560, people.y + people.opener.y - 6 - arrowHeight - 16)
+        onDismissed: Store.setShowActivity(false)
     }
 }

@@ -19,6 +19,11 @@ Freshness freshness(const std::optional<QString> &problem, const std::optional<Q
     return lastOK ? Freshness::Live : Freshness::Connecting;
 }
 
+QDateTime upToDateUntil(const QDateTime &lastOK)
+{
+    return lastOK.addSecs(freshSeconds);
+}
+
 QString liveText(const std::optional<QString> &problem, const std::optional<QDateTime> &lastOK, const Clock &clock)
 {
     switch (freshness(problem, lastOK)) {
@@ -29,7 +34,7 @@ QString liveText(const std::optional<QString> &problem, const std::optional<QDat
     case Freshness::Live:
         break;
     }
-    if (lastOK->secsTo(clock.now()) < freshSeconds)
+    if (clock.now() < upToDateUntil(*lastOK))
         return u"Up to date"_s;
     return u"Updated "_s + relativeTime(*lastOK, clock);
 }

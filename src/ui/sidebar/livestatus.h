@@ -16,6 +16,9 @@ enum class Freshness {
 /// Which of the three it is, given the problem of the last refresh and when one last succeeded.
 Freshness freshness(const std::optional<QString> &problem, const std::optional<QDateTime> &lastOK);
 
+/// When a board of that moment stops being up to date.
+QDateTime upToDateUntil(const QDateTime &lastOK);
+
 /// "Offline", "Connecting", "Up to date", or after 90 seconds "Updated 3 min ago".
 QString liveText(const std::optional<QString> &problem, const std::optional<QDateTime> &lastOK, const Clock &clock);
 

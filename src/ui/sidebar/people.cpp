@@ -17,6 +17,11 @@ bool isLive(const Person &person, const Clock &clock)
     return person.last_seen && clock.milliseconds() - *person.last_seen < liveMilliseconds;
 }
 
+QDateTime liveUntil(const Person &person)
+{
+    return momentOf(*person.last_seen + liveMilliseconds);
+}
+
 QList<PersonRow> peopleRows(const BoardState &board, const Clock &clock)
 {
     QList<PersonRow> rows;

@@ -30,6 +30,9 @@ public:
 /// A person counts as live who was last seen less than twelve minutes ago.
 bool isLive(const Person &person, const Clock &clock);
 
+/// When a person who is live now stops being so, unless they are seen again. They have been seen.
+QDateTime liveUntil(const Person &person);
+
 /// The board's people in board order.
 QList<PersonRow> peopleRows(const BoardState &board, const Clock &clock);
 
