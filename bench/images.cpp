@@ -29,7 +29,7 @@ Picture largest()
 
 void openFolder(benchmark::State &state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         Images images({}, [](const QString &, QObject *, const Images::Fetched &) {});
         images.addSamples(folder);
     }
@@ -40,7 +40,7 @@ BENCHMARK(openFolder)->Unit(benchmark::kMillisecond);
 void wholePage(benchmark::State &state)
 {
     const Picture page = largest();
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(page.decoded(page.size()));
 }
 BENCHMARK(wholePage)->Unit(benchmark::kMillisecond);
@@ -49,7 +49,7 @@ void pageAtShownSize(benchmark::State &state)
 {
     const Picture page = largest();
     const QSize shown = page.size().scaled(600, 840, Qt::KeepAspectRatio);
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(page.decoded(shown));
 }
 BENCHMARK(pageAtShownSize)->Unit(benchmark::kMillisecond);
@@ -60,7 +60,7 @@ void differenceOfTwoPages(benchmark::State &state)
     ours.fill(Qt::white);
     QImage theirs = ours.copy();
     theirs.fill(Qt::lightGray);
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(pageDifference(theirs, ours));
 }
 BENCHMARK(differenceOfTwoPages)->Unit(benchmark::kMillisecond);

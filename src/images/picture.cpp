@@ -30,7 +30,7 @@ quint64 nextId()
 void allowOurLargest()
 {
     static const bool done = [] {
-        QImageReader::setAllocationLimit(int(mostPixels * 4 / (1024 * 1024)) + 1);
+        QImageReader::setAllocationLimit(int(mostPixels * 4 / 1'048'576) + 1);
         return true;
     }();
     Q_UNUSED(done)
@@ -129,7 +129,7 @@ QImage Picture::decoded(QSize level) const
     if (whole.isNull() || whole.size() != m_data->size)
         return {};
     const bool opaque = !whole.hasAlphaChannel();
-    const QImage plain = whole.convertToFormat(opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    QImage plain = whole.convertToFormat(opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     if (level.width() >= plain.width() || level.height() >= plain.height())
         return plain;
     return plain.scaled(level, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
