@@ -24,7 +24,7 @@ QString withFirstSmall(const QString &text)
 
 QString phrase(const Event &event)
 {
-    const QString text = event.text.value_or(QString());
+    QString text = event.text.value_or(QString());
     if (event.kind == "comment"_L1)
         return u"left a note: “"_s + text + u'”';
     if (event.kind == "finding"_L1 || event.kind == "status"_L1 || event.kind == "report"_L1 || event.kind == "stop"_L1)
