@@ -75,7 +75,6 @@ private:
         const double before = processorSeconds();
         QTimer::singleShot(idleMilliseconds, this, [this, before] {
             tell("idle", processorSeconds() - before);
-            m_phase = Turning;
             turn();
         });
     }
@@ -86,6 +85,7 @@ private:
         Store &store = m_app.store();
         const FileItem *file = store.current();
         m_frames = 0;
+        m_phase = Turning;
         m_clock.start();
         store.turnPage(file->id, store.shownPage(file->id) + (m_turn % 2 == 0 ? 1 : -1));
     }
@@ -101,8 +101,8 @@ private:
         }
         if (++m_turn == turns + 2)
             return finish();
-        QTimer::singleShot(m_turn < 2 ? 500 : 30, this, [this] { turn(); });
-        m_frames = -1000000; // frames until the next turn do not count
+        m_phase = Resting; // what still moves after a turn, a mark fading in, is no frame of the next one
+        QTimer::singleShot(600, this, [this] { turn(); });
     }
 
     void finish()
