@@ -7,6 +7,7 @@
 #include <curl/curl.h>
 
 #include <algorithm>
+#include <csignal>
 #include <utility>
 
 namespace vexal {
@@ -38,6 +39,8 @@ Session::Session()
 {
     static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
     Q_UNUSED(ready)
+    // A connection that the server has closed is for us to hear of, not to die of.
+    std::signal(SIGPIPE, SIG_IGN);
     m_multi = curl_multi_init();
     curl_multi_setopt(m_multi, CURLMOPT_SOCKETFUNCTION, &Calls::watch);
     curl_multi_setopt(m_multi, CURLMOPT_SOCKETDATA, this);

@@ -95,6 +95,8 @@ void Transfer::prepare()
     CURL *handle = m_handle.get();
     curl_easy_setopt(handle, CURLOPT_PRIVATE, this);
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    // A transfer that is given up while its host is looked up must not wait for the answer.
+    curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
     curl_easy_setopt(handle, CURLOPT_URL, m_request.url.toEncoded(QUrl::RemoveFragment).constData());
@@ -205,7 +207,7 @@ void Transfer::finish(End end)
     m_head.stop();
     m_session.remove(*this);
     deleteLater();
-    m_done(end, m_response);
+    std::exchange(m_done, nullptr)(end, m_response);
 }
 
 } // namespace vexal

@@ -229,7 +229,7 @@ void FaultsTest::aServerThatNeverAnswers()
     QElapsedTimer waited;
     waited.start();
     QCOMPARE(client.send(request).failure(), outOfReach);
-    QVERIFY(waited.elapsed() >= 350 && waited.elapsed() < 2000);
+    QVERIFY(waited.elapsed() >= 700);
     QCOMPARE(client.server.requests().size(), 1);
 }
 
@@ -251,14 +251,14 @@ void FaultsTest::aHeadThatTakesTooLong()
 void FaultsTest::aHeadThatTricklesIsWaitedForThatLong()
 {
     const QByteArray head = "HTTP/1.1 200 OK\r\nX-A: 1\r\nX-B: 2\r\nX-C: 3\r\nX-D: 4\r\nX-E: 5\r\n";
-    Client patient({.idle = 400ms, .head = 5s});
-    patient.server.on("GET", "/x").answer(Answer::raw(head + "Content-Length: 2\r\n\r\nok").trickled(10, 100ms));
+    Client patient({.idle = 800ms, .head = 20s});
+    patient.server.on("GET", "/x").answer(Answer::raw(head + "Content-Length: 2\r\n\r\nok").trickled(2, 25ms));
     QElapsedTimer waited;
     waited.start();
     QCOMPARE(patient.send(fetch())->body, "ok");
-    QVERIFY(waited.elapsed() > 500);
-    Client client({.idle = 400ms, .head = 500ms});
-    client.server.on("GET", "/x").answer(Answer::raw(head + "Content-Length: 2\r\n\r\nok").trickled(10, 100ms));
+    QVERIFY(waited.elapsed() > 900);
+    Client client({.idle = 800ms, .head = 400ms});
+    client.server.on("GET", "/x").answer(Answer::raw(head + "Content-Length: 2\r\n\r\nok").trickled(2, 25ms));
     QCOMPARE(client.send(fetch()).failure(), outOfReach);
 }
 
@@ -275,12 +275,12 @@ void FaultsTest::aBrokenChunk()
 void FaultsTest::aBodyThatTricklesIsWaitedFor()
 {
     Client client;
-    client.server.on("GET", "/x").answer(Answer(200, "0123456789").trickled(1, 150ms));
+    client.server.on("GET", "/x").answer(Answer(200, QByteArray(50, 'x')).trickled(1, 40ms));
     QElapsedTimer waited;
     waited.start();
     const auto answer = client.send(fetch());
     QVERIFY(answer);
-    QCOMPARE(answer->body, "0123456789");
+    QCOMPARE(answer->body.size(), 50);
     QVERIFY(waited.elapsed() > Client::impatient.head.count());
 }
 
@@ -288,7 +288,7 @@ void FaultsTest::aRequestThatQueuesIsNotHurried()
 {
     Client client;
     // Six that are alive but slow hold every connection for longer than a silent one would be waited for.
-    client.server.on("GET", "/slow").answer(Answer(200, "0123456789").trickled(1, 100ms));
+    client.server.on("GET", "/slow").answer(Answer(200, QByteArray(30, 'x')).trickled(1, 40ms));
     client.server.on("GET", "/x").answer(200);
     int slow = 0;
     for (int i = 0; i < 6; ++i)
@@ -384,7 +384,7 @@ void FaultsTest::aGzippedBodyCutShort()
 void FaultsTest::aGzipBomb()
 {
     Client client;
-    client.server.on("GET", "/x").answer(Answer(200, QByteArray(70'000'000, '\0')).gzipped());
+    client.server.on("GET", "/x").answer(Answer(200, QByteArray(vexal::limit::json + 1, '\0')).gzipped());
     QCOMPARE(client.send(fetch()).failure(), outOfReach);
 }
 

@@ -43,7 +43,7 @@ void InflateTest::whatWasPackedComesOut_data()
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("a word") << QByteArray("hello");
     QTest::newRow("noise") << noise(3'000'000);
-    QTest::newRow("much of the same") << QByteArray(40'000'000, 'x');
+    QTest::newRow("much of the same") << QByteArray(10'000'000, 'x');
     QTest::newRow("exactly one step") << QByteArray(262'144, 'y');
 }
 
@@ -87,8 +87,8 @@ void InflateTest::theLimitHolds()
 
 void InflateTest::aBombIsNotUnpacked()
 {
-    const QByteArray bomb = gzip(QByteArray(300'000'000, '\0'));
-    QVERIFY(bomb.size() < 1'000'000);
+    const QByteArray bomb = gzip(QByteArray(plenty + 1, '\0'));
+    QVERIFY(bomb.size() < 100'000);
     QVERIFY(!inflated(bomb, plenty));
 }
 

@@ -29,7 +29,7 @@ struct Run
 
     bool becomesKnown()
     {
-        return QTest::qWaitFor([this] { return store.known(); }, 4000);
+        return QTest::qWaitFor([this] { return store.known(); }, 10000);
     }
 
     /// Whether the store said in time that it was through with the token.
@@ -37,7 +37,7 @@ struct Run
     {
         bool stored = false;
         store.store(token, &store, [&stored] { stored = true; });
-        return store.token() == token && QTest::qWaitFor([&stored] { return stored; }, 4000);
+        return store.token() == token && QTest::qWaitFor([&stored] { return stored; }, 10000);
     }
 
     KeyringCredentialStore store;
@@ -343,8 +343,8 @@ void CredentialStoreTest::aFrozenKeyringIsAnsweredInTimeAndReadWhenItThaws()
     Heartbeat heart;
     Run run(m_preferences);
     QVERIFY(run.becomesKnown());
-    QVERIFY2(waited.elapsed() < 3500, qPrintable(QString::number(waited.elapsed())));
-    QVERIFY2(heart.longestPause() < 500, qPrintable(QString::number(heart.longestPause())));
+    QVERIFY2(waited.elapsed() < 5000, qPrintable(QString::number(waited.elapsed())));
+    QVERIFY2(heart.longestPause() < 2000, qPrintable(QString::number(heart.longestPause())));
     QCOMPARE(run.store.token(), QString());
     m_keyring->thaw();
     QTRY_COMPARE(run.store.token(), u"token"_s);
@@ -359,8 +359,8 @@ void CredentialStoreTest::aTokenStoredWhileFrozenIsAnsweredInTimeAndKeptWhenItTh
     waited.start();
     Heartbeat heart;
     QVERIFY(run.stores(u"token"_s));
-    QVERIFY2(waited.elapsed() < 3500, qPrintable(QString::number(waited.elapsed())));
-    QVERIFY2(heart.longestPause() < 500, qPrintable(QString::number(heart.longestPause())));
+    QVERIFY2(waited.elapsed() < 5000, qPrintable(QString::number(waited.elapsed())));
+    QVERIFY2(heart.longestPause() < 2000, qPrintable(QString::number(heart.longestPause())));
     QCOMPARE(run.forThisRunOnly.size(), 0);
     m_keyring->thaw();
     QTRY_COMPARE(m_keyring->secrets(service, account), QStringList{u"token"_s});

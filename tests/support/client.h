@@ -26,8 +26,8 @@ private:
 class Client
 {
 public:
-    static constexpr vexal::Timeouts impatient{.idle = std::chrono::milliseconds(400),
-                                               .head = std::chrono::milliseconds(900)};
+    static constexpr vexal::Timeouts impatient{.idle = std::chrono::milliseconds(800),
+                                               .head = std::chrono::milliseconds(1600)};
 
     explicit Client(const vexal::Timeouts &timeouts = impatient)
         : api(preferences, credentials, presence, timeouts)
