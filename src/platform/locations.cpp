@@ -11,4 +11,9 @@ QString picturesFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/Vexal/img"_s;
 }
 
+QString downloadsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+}
+
 } // namespace vexal

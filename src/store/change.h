@@ -44,6 +44,14 @@ public:
         m_whole.note(changed);
     }
 
+    /// Takes an entry out of a map of the Store.
+    template <typename Value>
+    void remove(QMap<QString, Value> &map, const QString &key, void (Store::*changed)())
+    {
+        if (map.remove(key) > 0)
+            m_whole.note(changed);
+    }
+
 private:
     using Signal = void (Store::*)();
 

@@ -1,6 +1,9 @@
 #include "store.h"
 
 #include "change.h"
+#include "credentialstore.h"
+#include "signin.h"
+#include "surroundings.h"
 
 #include <algorithm>
 
@@ -40,11 +43,28 @@ Store::Store(Clock clock, QObject *parent)
     : QObject(parent)
     , m_clock(std::move(clock))
     , m_against(u"submitted"_s)
+    , m_visit(std::make_unique<QObject>())
     , m_started(m_clock.now())
 {
 }
 
-Store::~Store() = default;
+Store::Store(Clock clock, const Surroundings &surroundings, QObject *parent)
+    : Store(std::move(clock), parent)
+{
+    m_world = std::make_unique<Surroundings>(surroundings);
+    connect(&m_world->signIn, &SignIn::waitingChanged, this, &Store::signingInChanged);
+    connect(&m_world->credentials, &CredentialStore::keptForThisRunOnly, this,
+            [this] { showToast(u"This computer has no credential store, so you'll sign in again next time."_s); });
+}
+
+Store::~Store()
+{
+    // What is under way ends with the members that it hangs on, and must not touch the others any more.
+    ++m_session;
+    m_loop.reset();
+    if (m_world)
+        m_world->signIn.disconnect(this);
+}
 
 void Store::takeBoard(BoardState board)
 {

@@ -2,16 +2,27 @@
 
 #include "board.h"
 #include "clock.h"
+#include "hold.h"
 #include "toast.h"
 
 #include <QHash>
 #include <QObject>
 #include <QPointF>
+#include <QPointer>
 #include <QSet>
+#include <QUrl>
 
 #include <memory>
 
 namespace vexal {
+
+struct Failure;
+struct Place;
+struct Request;
+struct Response;
+struct Surroundings;
+template <typename Value>
+class Result;
 
 /// The whole state of the running program: the board, what the person looks at, what is under way. It alone changes the
 /// board; the screens read its fields and ask for its operations. Everything runs on the user-interface thread.
@@ -37,14 +48,18 @@ class Store : public QObject
     Q_PROPERTY(QStringList busy READ busySorted NOTIFY busyChanged)
     Q_PROPERTY(bool refreshing READ refreshing NOTIFY refreshingChanged)
     Q_PROPERTY(bool showActivity READ showActivity NOTIFY showActivityChanged)
+    Q_PROPERTY(bool signingIn READ signingIn NOTIFY signingInChanged)
+    Q_PROPERTY(QUrl signInPage READ signInPage NOTIFY signingInChanged)
 
 public:
     /// How the canvas compares the two pages.
     enum class CompareMode { Side, Overlay, Blink };
     Q_ENUM(CompareMode)
 
-    /// An empty store of nobody signed in, which goes by `clock`.
+    /// An empty store of nobody signed in, which goes by `clock`. It reaches nothing but what it is given.
     explicit Store(Clock clock, QObject *parent = nullptr);
+    /// The same, with a server to live on.
+    Store(Clock clock, const Surroundings &surroundings, QObject *parent = nullptr);
     ~Store() override;
 
     /// A credential is held and the board may be polled.
@@ -85,6 +100,12 @@ public:
     bool showActivity() const { return m_showActivity; }
     /// The board is the sample board: nothing is polled or sent.
     bool sample() const { return m_sample; }
+    /// The person is on the way to be signed in: the sign-in page is open, or its answer is being exchanged.
+    bool signingIn() const;
+    /// The sign-in page that waits for the person, for when its window did not come; empty when none waits.
+    QUrl signInPage() const;
+    /// Why a file's detail could not be fetched, as a sentence, by file id. Only of files of which nothing is known.
+    const QMap<QString, QString> &detailProblems() const { return m_detailProblems; }
 
     /// The time that the whole program goes by.
     const Clock &clock() const { return m_clock; }
@@ -107,6 +128,66 @@ public:
     std::optional<QString> newCount() const;
     /// When something happened, as told now.
     QString relativeTime(const QDateTime &moment) const;
+
+    /// The action of that key is in flight.
+    Q_INVOKABLE bool isBusy(const QString &key) const { return m_busy.contains(key); }
+    /// Why the file's detail could not be fetched; empty while something is known of it, or nothing was tried.
+    Q_INVOKABLE QString detailProblem(const QString &fileId) const { return m_detailProblems.value(fileId); }
+
+    /// Signs in with the stored credential, as soon as it is known whether there is one. For the start of the program.
+    void resume();
+    /// Looks at the server now, and again and again until `stop`. Asks once for a newer version of the program.
+    void start();
+    /// Looks no more.
+    void stop();
+    /// Asks for the board and what belongs to it, then for the detail of the one selected file. It never fails: what
+    /// goes wrong shows in `problem`, or signs out. `until` is let go when all of it has ended.
+    void refresh(const Hold &until = {});
+    /// A refresh that the person asked for: a toast says how it ended.
+    Q_INVOKABLE void refreshNow();
+    /// Asks for the detail of the file. One that cannot be had leaves the old one, or `detailProblem`. The selected
+    /// file's is given up when another is selected.
+    Q_INVOKABLE void loadDetail(const QString &fileId);
+    /// Asks for the newest version of the program, and offers it in `update` when it is newer than this one.
+    void checkVersion();
+    /// Takes the offer of a newer version away.
+    Q_INVOKABLE void dismissUpdate();
+
+    // Each action asks the server once, tells the outcome in a toast and asks for the board; its key is busy meanwhile.
+    // On the sample board it does nothing and says so.
+
+    /// Asks the worker machine to look for new proofs. Busy: "sync".
+    Q_INVOKABLE void startSync();
+    /// Asks the worker machine for one report on these files or, without any, on the one selected file. Busy: "report".
+    Q_INVOKABLE void makeReport(const QStringList &fileIds = {});
+    /// Asks the worker machine to stop the job. Busy: "stop-" and its id.
+    Q_INVOKABLE void stopJob(const QString &jobId);
+    /// Changes a file's review status, at once, with undo. Busy: "status".
+    Q_INVOKABLE void setStatus(const QString &fileId, const QString &status);
+    /// Judges a finding of a known file, at once, with undo. Busy: the finding's id.
+    Q_INVOKABLE void setFindingState(const QString &findingId, const QString &state);
+    /// Adds a note to the page that the one selected file shows, where the draft says. Blank text is no note. The draft
+    /// is used up, and comes back should the note not be taken. Busy: "note".
+    Q_INVOKABLE void addNote(const QString &text);
+    /// Changes a note: its text, whether it is resolved, whether it is there at all. Busy: "n-" and its id.
+    void editNote(const QString &noteId, const std::optional<QString> &text, std::optional<bool> resolved = {},
+                  bool deleted = false);
+    Q_INVOKABLE void saveNote(const QString &noteId, const QString &text) { editNote(noteId, text); }
+    Q_INVOKABLE void resolveNote(const QString &noteId, bool resolved) { editNote(noteId, {}, resolved); }
+    Q_INVOKABLE void deleteNote(const QString &noteId) { editNote(noteId, {}, {}, true); }
+    /// Saves the report among the person's downloads and opens it. Busy: "open-" and its id.
+    Q_INVOKABLE void openReport(const QString &reportId);
+    /// Lets the person pick a photo, and makes it theirs. Busy once it is picked: "photo".
+    Q_INVOKABLE void changePhoto();
+
+    /// Opens the sign-in page; the person who comes back from it is signed in. Pressed again, it begins anew.
+    Q_INVOKABLE void signIn();
+    /// Waits no longer for the person to come back.
+    Q_INVOKABLE void cancelSignIn();
+    /// Hears what was opened into the program from outside: the way back from the sign-in page, or nothing of ours.
+    void openUrl(const QUrl &url);
+    /// Forgets the credential and everything that came with it. `expired`: because the server refused it.
+    Q_INVOKABLE void signOut(bool expired = false);
 
     /// Takes a board that arrived. With nothing selected, selects the first file that is not reviewed, or the first.
     void takeBoard(BoardState board);
@@ -168,9 +249,26 @@ Q_SIGNALS:
     void updateChanged();
     void refreshingChanged();
     void showActivityChanged();
+    void signingInChanged();
+    void detailProblemsChanged();
+
+    /// The server has answered the action of that key: it was `taken`, or it failed and what was typed is kept.
+    void answered(const QString &key, bool taken);
 
 private:
     class Change;
+    using Answered = std::function<void(const Result<Response> &)>;
+    using Taken = std::function<void(const Response &, const Hold &busy)>;
+    using Refused = std::function<void(const Hold &busy)>;
+
+    /// The note being written, as it was when it was sent.
+    struct Draft
+    {
+        QString fileId;
+        qint64 page = 0;
+        std::optional<QPointF> pin;
+        std::optional<QString> finding;
+    };
 
     // What QML reads for the fields that it cannot take as they are.
     QStringList selectionSorted() const;
@@ -186,7 +284,49 @@ private:
     void select(const QSet<QString> &ids);
     bool isOnCanvas(const QString &fileId) const;
 
+    // Requests, and how they end.
+    bool isLive() const;
+    bool mayAct();
+    /// `then` while the session of now lasts; afterwards it does nothing.
+    template <typename Then>
+    auto inThisSession(Then then)
+    {
+        return [store = QPointer(this), session = m_session, then = std::move(then)](const auto &...given) {
+            if (const Store *self = store; self && self->m_session == session)
+                then(given...);
+        };
+    }
+    void ask(const Request &request, QObject *context, Answered done);
+    void askForChanges(const Request &request, bool held, QObject *context, const Answered &done);
+    Hold hold(const QString &key);
+    void act(const QString &key, const Request &request, const QString &failureText, const Taken &taken,
+             const Refused &refused = {});
+    void perform(const QString &key, const std::optional<QString> &successText, const Request &request,
+                 const Refused &refused = {});
+    void fail(const Failure &failure, const QString &ownText);
+    void offerUndo(const QString &text, std::function<void()> undo);
+
+    // What arrives.
+    void boardAnswered(const Response &answer, quint64 asked, const Hold &until);
+    void boardArrived(BoardState board, const std::optional<QString> &tag, quint64 asked);
+    void boardFailed(const Failure &failure);
+    void fetchDetail(const QString &fileId, QObject *context, const Hold &until);
+    void detailAnswered(const QString &fileId, const Response &answer, quint64 asked);
+    void detailFailed(const QString &fileId, const Failure &failure);
+
+    // What actions are made of.
+    void writeStatus(const QString &fileId, const QString &status);
+    void writeFindingState(const Place &place, const QString &state);
+    void forgetTag(const QString &fileId);
+    void bringBack(const Draft &draft);
+    std::optional<QString> titleOf(const QString &reportId) const;
+    void saveAndOpen(const std::optional<QString> &title, const QByteArray &pdf, const Hold &busy);
+    void sendPhoto(const std::optional<QByteArray> &jpeg);
+    void beSignedIn();
+    void clearSession();
+
     Clock m_clock;
+    std::unique_ptr<Surroundings> m_world; ///< Null: there is none.
     Change *m_change = nullptr;            ///< The outermost one under way.
     QHash<QString, qsizetype> m_rowOfFile; ///< Where each file id stands in the board's files.
 
@@ -209,14 +349,25 @@ private:
     std::optional<VersionInfo> m_update;
     bool m_refreshing = false;
     bool m_showActivity = false;
+    QMap<QString, QString> m_detailProblems;
 
     // Nobody watches these.
     bool m_sample = false;
     std::optional<QString> m_etag;     ///< Entity tag of the board.
     QMap<QString, QString> m_fileTags; ///< Entity tag of each file's detail, by file id.
     std::unique_ptr<QObject> m_loop;   ///< What the refresh loop awaits hangs on it and ends with it; null: no loop.
+    std::unique_ptr<QObject> m_visit;  ///< The same for the selected file; another selection is another visit.
     qint64 m_seenEvent = 0;            ///< The highest event id accounted for.
     QDateTime m_started;               ///< Older events are never announced.
+    QStringList m_held;                ///< The busy key of each action in flight.
+    quint64 m_session = 0;             ///< Which one it is: each sign-out ends one.
+
+    // What is asked for and what is written here are numbered in one row, so that an answer tells whether it is older
+    // than what is held.
+    quint64 m_number = 0;
+    quint64 m_boardTaken = 0;            ///< Number of the request whose answer is the board.
+    quint64 m_boardWritten = 0;          ///< Number of the last change of the board made here.
+    QHash<QString, quint64> m_detailSet; ///< Number of the request or change that each file's detail is from.
 };
 
 using CompareMode = Store::CompareMode;

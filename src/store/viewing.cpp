@@ -105,6 +105,7 @@ void Store::select(const QSet<QString> &ids)
     Change change(*this);
     if (!change.set(m_selection, ids, &Store::selectionChanged))
         return;
+    m_visit = std::make_unique<QObject>();
     clearFocus();
     clearDraft();
 }

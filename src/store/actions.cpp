@@ -1,0 +1,125 @@
+#include "api.h"
+#include "change.h"
+#include "place.h"
+
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+/// What people ask of the worker machine, and their judgement.
+namespace vexal {
+
+namespace {
+
+QString statusText(const QString &status)
+{
+    if (status == "reviewed"_L1)
+        return u"Marked reviewed."_s;
+    return status == "in_review"_L1 ? u"Back in review."_s : u"Moved to New."_s;
+}
+
+QString findingText(const QString &state)
+{
+    if (state == "issue"_L1)
+        return u"Marked a real issue."_s;
+    return state == "fine"_L1 ? u"Marked fine."_s : u"Reopened."_s;
+}
+
+} // namespace
+
+void Store::startSync()
+{
+    if (mayAct())
+        perform(u"sync"_s, u"Asked the Mac mini to sync."_s,
+                {.path = u"api/jobs"_s, .method = "POST", .json = QJsonObject{{u"kind"_s, u"sync"_s}}});
+}
+
+void Store::makeReport(const QStringList &fileIds)
+{
+    if (!mayAct() || !m_board)
+        return;
+    const auto covers = [this, &fileIds](const FileItem &file) {
+        return fileIds.isEmpty() ? &file == current() : fileIds.contains(file.id);
+    };
+    QJsonArray ids;
+    for (const FileItem &file : m_board->files) {
+        if (covers(file))
+            ids.append(file.id);
+    }
+    if (ids.isEmpty())
+        return;
+    perform(
+        u"report"_s, u"Asked the Mac mini for the report."_s,
+        {.path = u"api/jobs"_s, .method = "POST", .json = QJsonObject{{u"kind"_s, u"report"_s}, {u"file_ids"_s, ids}}});
+}
+
+void Store::stopJob(const QString &jobId)
+{
+    if (mayAct())
+        perform(u"stop-"_s + jobId, u"Stopping."_s, {.path = u"api/jobs/"_s + jobId + u"/stop"_s, .method = "POST"});
+}
+
+void Store::setStatus(const QString &fileId, const QString &status)
+{
+    const FileItem *file = findFile(fileId);
+    if (!mayAct() || !file)
+        return;
+    const auto taken = [this, fileId, status, before = file->status](const Response &, const Hold &busy) {
+        offerUndo(statusText(status), [this, fileId, before] { setStatus(fileId, before); });
+        refresh(busy);
+    };
+    Change change(*this);
+    writeStatus(fileId, status);
+    act(u"status"_s,
+        {.path = u"api/files/"_s + fileId + u"/status"_s, .method = "POST", .json = QJsonObject{{u"status"_s, status}}},
+        u"That didn't save."_s, taken, [this](const Hold &busy) { refresh(busy); });
+}
+
+void Store::setFindingState(const QString &findingId, const QString &state)
+{
+    const auto place = placeOf(findingId, &FileDetail::findings, m_details);
+    if (!mayAct() || !place)
+        return;
+    const QString fileId = place->fileId;
+    const QString before = detail(fileId)->findings.at(place->row).state;
+    const auto taken = [this, fileId, findingId, state, before](const Response &, const Hold &busy) {
+        offerUndo(findingText(state), [this, findingId, before] { setFindingState(findingId, before); });
+        refresh(busy); // Brings the detail of the one selected file.
+        if (!current() || current()->id != fileId)
+            fetchDetail(fileId, this, busy);
+    };
+    Change change(*this);
+    writeFindingState(*place, state);
+    act(findingId, {.path = u"api/findings/"_s + findingId, .method = "POST", .json = QJsonObject{{u"state"_s, state}}},
+        u"That didn't save. Try again."_s, taken,
+        [this, fileId](const Hold &busy) { fetchDetail(fileId, this, busy); });
+}
+
+/// Writes the status into the board that is held. Whatever the server makes of it, it is asked for the board itself
+/// next.
+void Store::writeStatus(const QString &fileId, const QString &status)
+{
+    Change change(*this);
+    FileItem &file = m_board->files[m_rowOfFile.value(fileId)];
+    change.set(file.status, status, &Store::boardChanged);
+    change.set(file.status_by, m_board->me.email, &Store::boardChanged);
+    change.set(file.status_at, m_clock.milliseconds(), &Store::boardChanged);
+    m_etag.reset();
+    m_boardWritten = ++m_number;
+}
+
+/// Writes the state into the detail that is held. Whatever the server makes of it, it is asked for the detail itself
+/// next.
+void Store::writeFindingState(const Place &place, const QString &state)
+{
+    Change change(*this);
+    Finding &finding = m_details[place.fileId].findings[place.row];
+    change.set(finding.state, state, &Store::detailsChanged);
+    if (m_board)
+        change.set(finding.state_by, m_board->me.email, &Store::detailsChanged);
+    change.set(finding.state_at, m_clock.milliseconds(), &Store::detailsChanged);
+    forgetTag(place.fileId);
+    m_detailSet[place.fileId] = ++m_number;
+}
+
+} // namespace vexal
