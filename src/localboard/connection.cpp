@@ -17,7 +17,7 @@ namespace {
 constexpr std::string_view endOfHead = "\r\n\r\n";
 
 /// How much of a refused body is still read so that the refusal arrives.
-constexpr std::size_t farewellBytes = 4'000'000;
+constexpr std::size_t farewellBytes = 16'000'000;
 constexpr std::chrono::milliseconds farewell{2'000};
 
 } // namespace

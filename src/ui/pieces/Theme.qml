@@ -74,6 +74,8 @@ QtObject {
     readonly property real chosenWash: 0.55
     readonly property real chosenOutline: 0.45
     readonly property real focusRing: 0.7
+    readonly property real updateWash: 0.09
+    readonly property real offlineWash: 0.13
 
     // How strongly a whole piece is drawn.
     readonly property real disabled: 0.45
