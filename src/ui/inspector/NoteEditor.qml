@@ -8,7 +8,7 @@ Column {
 
     required property string before
     property bool busy: false
-    readonly property string text: field.text
+    readonly property bool writing: field.writing
 
     signal typed(text: string)
     signal cancelled

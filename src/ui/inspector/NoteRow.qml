@@ -13,6 +13,16 @@ Item {
     property bool confirmDelete: false
     readonly property real indent: root.row.number.length > 0 ? 23 : 0
 
+    readonly property bool editing: root.row.editing
+    // The keyboard is in the editor; when that goes, it stays with the note.
+    property bool writing: false
+    onEditingChanged: {
+        if (root.editing || !root.writing)
+            return;
+        root.writing = false;
+        more.forceActiveFocus();
+    }
+
     signal resolveRequested(resolved: bool)
     signal editRequested
     signal typed(text: string)
@@ -40,9 +50,15 @@ Item {
             height: 16
             radius: 8
             color: Theme.accent.solid
-            border.width: 1.2
-            border.pixelAligned: false
-            border.color: Theme.onSolid
+            Rectangle {
+                anchors.fill: parent
+                anchors.margins: -1.2
+                radius: 9.2
+                color: "transparent"
+                border.width: 1.2
+                border.pixelAligned: false
+                border.color: Theme.onSolid
+            }
             Label {
                 anchors.centerIn: parent
                 text: root.row.number
@@ -131,18 +147,15 @@ Item {
             size: 13
             help: "Edit or delete"
             open: menu.open
-            enabled: !root.row.busy
-            onClicked: menu.open = true
+            onClicked: menu.open = !root.row.busy
         }
     }
-    Item {
+    Column {
         id: body
         y: 20
         width: parent.width
-        height: root.row.editing ? editor.childrenRect.height + 6 : text.height
 
         TextEdit {
-            id: text
             objectName: "text"
             visible: !root.row.editing
             x: root.indent
@@ -161,23 +174,20 @@ Item {
             Accessible.role: Accessible.StaticText
             Accessible.name: root.row.text
         }
-        Item {
-            id: editor
-            y: 6
-            width: parent.width
-            When {
-                active: root.row.editing
-                NoteEditor {
-                    width: editor.width
-                    before: root.draft
-                    busy: root.row.busy
-                    onTyped: text => root.typed(text)
-                    onCancelled: {
-                        root.editCancelled();
-                        more.forceActiveFocus();
-                    }
-                    onSaved: root.editSaved()
+        When {
+            active: root.row.editing
+            NoteEditor {
+                width: body.width
+                topPadding: 6
+                before: root.draft
+                busy: root.row.busy
+                onTyped: text => root.typed(text)
+                onWritingChanged: {
+                    if (root.row.editing)
+                        root.writing = writing;
                 }
+                onCancelled: root.editCancelled()
+                onSaved: root.editSaved()
             }
         }
     }

@@ -32,6 +32,7 @@ Overlay {
         }
         Label {
             id: words
+            objectName: "question"
             x: 18
             y: 18
             width: parent.width - 36
