@@ -3,8 +3,9 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.File
 import Vexal.Canvas
+import Vexal.Inspector
 
-/// The one selected file: what it is, above the canvas on which its pages are compared.
+/// The one selected file: what it is, above the canvas on which its pages are compared and what is said of the page.
 FocusScope {
     id: root
 
@@ -23,12 +24,34 @@ FocusScope {
     CompareCanvas {
         anchors.top: rule.bottom
         anchors.bottom: parent.bottom
-        width: parent.width
+        anchors.left: parent.left
+        anchors.right: beside.left
         focus: true
         state: canvas
+    }
+    Rule {
+        id: beside
+        anchors.top: rule.bottom
+        anchors.bottom: parent.bottom
+        anchors.right: inspector.left
+        upright: true
+    }
+    Inspector {
+        id: inspector
+        anchors.top: rule.bottom
+        anchors.bottom: parent.bottom
+        anchors.right: parent.right
+        width: 330
+        state: page
     }
     CanvasState {
         id: canvas
         store: Store
+    }
+    InspectorState {
+        id: page
+        store: Store
+        time: PassingTime
+        drafts: Drafts
     }
 }
