@@ -5,7 +5,8 @@ import Vexal.File
 import Vexal.Canvas
 import Vexal.Inspector
 
-/// The one selected file: what it is, above the canvas on which its pages are compared and what is said of the page.
+/// The one selected file: what it is, above the canvas on which its pages are compared, all its pages below, and what is
+/// said of the page beside.
 FocusScope {
     id: root
 
@@ -14,7 +15,7 @@ FocusScope {
     FileHeader {
         id: header
         width: parent.width
-        header: root.state.header
+        state: root.state
     }
     Rule {
         id: rule
@@ -22,12 +23,25 @@ FocusScope {
         width: parent.width
     }
     CompareCanvas {
+        id: compare
         anchors.top: rule.bottom
-        anchors.bottom: parent.bottom
+        anchors.bottom: strip.top
         anchors.left: parent.left
         anchors.right: beside.left
         focus: true
         state: canvas
+    }
+    FileProblem {
+        anchors.centerIn: compare
+        visible: root.state.problem.length > 0
+        state: root.state
+    }
+    PageStrip {
+        id: strip
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: beside.left
+        state: root.state
     }
     Rule {
         id: beside

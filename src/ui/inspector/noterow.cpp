@@ -1,5 +1,7 @@
 #include "noterow.h"
 
+#include "derived.h"
+
 #include "displayname.h"
 #include "facts.h"
 #include "jobtexts.h"
@@ -34,11 +36,6 @@ QList<Note> only(const QList<Note> &notes, Wanted wanted)
 }
 
 } // namespace
-
-bool isResolved(const Note &note)
-{
-    return note.resolved.value_or(0) != 0;
-}
 
 QList<Note> notesOfPage(const QList<Note> &notes, qint64 index)
 {

@@ -32,9 +32,6 @@ public:
     bool operator==(const NoteRow &) const = default;
 };
 
-/// The note is done with.
-bool isResolved(const Note &note);
-
 /// The notes of a page itself, in their order; under the first page's, those on the whole file.
 QList<Note> notesOfPage(const QList<Note> &notes, qint64 index);
 

@@ -74,6 +74,7 @@ QtObject {
     readonly property real chosenWash: 0.55
     readonly property real chosenOutline: 0.45
     readonly property real focusRing: 0.7
+    readonly property real currentWash: 0.13
     readonly property real updateWash: 0.09
     readonly property real offlineWash: 0.13
     readonly property real fieldFocus: 0.6
