@@ -18,6 +18,9 @@ Item {
     /// Blob key of the photo; empty without one.
     property string photo: ""
 
+    /// The colour that the board has for the person; empty without one.
+    property string color: ""
+
     readonly property string letters: Faces.initials(root.name)
     readonly property bool known: root.email.length > 0 && root.letters.length > 0
 
@@ -43,7 +46,7 @@ Item {
         anchors.fill: parent
         visible: !picture.hasPicture
         radius: width / 2
-        color: root.known ? Faces.colour(root.email) : Theme.pressed
+        color: root.known ? Faces.colour(root.email, root.color) : Theme.pressed
         Label {
             objectName: "text"
             anchors.centerIn: parent

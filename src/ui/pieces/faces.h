@@ -10,8 +10,9 @@ namespace vexal {
 /// Empty for a name without words.
 QString initials(const QString &name);
 
-/// The ground under a person's initials: the same for the same address in every run, readable under white text.
-QColor faceColour(const QString &email);
+/// The ground under a person's initials, readable under white text: the colour that the board has for them ("#7A4E8C"),
+/// darkened if need be, or else one that is the same for the same address in every run.
+QColor faceColour(const QString &email, const QString &own = {});
 
 /// The same for screens.
 class Faces : public QObject
@@ -22,6 +23,6 @@ class Faces : public QObject
 
 public:
     Q_INVOKABLE static QString initials(const QString &name) { return vexal::initials(name); }
-    Q_INVOKABLE static QColor colour(const QString &email) { return faceColour(email); }
+    Q_INVOKABLE static QColor colour(const QString &email, const QString &own) { return faceColour(email, own); }
 };
 } // namespace vexal

@@ -49,6 +49,7 @@ Item {
         email: root.row.actor
         name: root.row.name
         photo: root.row.photo
+        color: root.row.color
         ground: Theme.card
         Accessible.ignored: true
     }

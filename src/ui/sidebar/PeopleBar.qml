@@ -37,6 +37,7 @@ Item {
                 dot: row.live
                 help: row.help
                 photo: row.photo
+                color: row.color
             }
         }
     }

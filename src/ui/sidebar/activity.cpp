@@ -80,6 +80,7 @@ ActivityRow activityRow(const Event &event, const BoardState &board, const Known
     if (const Person *person = known.people.value(row.actor)) {
         row.name = person->name;
         row.photo = person->photo.value_or(QString());
+        row.color = person->color.value_or(QString());
     }
     const QString actorName = event.by ? displayName(event.by, &board) : QString();
     row.sentence = activitySentence(event, actorName);

@@ -16,6 +16,7 @@ class ActivityRow
     Q_PROPERTY(QString actor MEMBER actor FINAL)
     Q_PROPERTY(QString name MEMBER name FINAL)
     Q_PROPERTY(QString photo MEMBER photo FINAL)
+    Q_PROPERTY(QString color MEMBER color FINAL)
     Q_PROPERTY(QString sentence MEMBER sentence FINAL)
     Q_PROPERTY(QString styled MEMBER styled FINAL)
     Q_PROPERTY(QString when MEMBER when FINAL)
@@ -25,6 +26,7 @@ public:
     QString key;      ///< The event's id.
     QString actor;    ///< E-mail address of who did it; empty for the worker machine.
     QString name;     ///< The actor's whole name; empty for somebody who is not known.
+    QString color;    ///< The board's colour for the actor; empty without one.
     QString photo;    ///< Blob key of the actor's photo; empty without one.
     QString sentence; ///< "Teo started a sync"
     QString styled;   ///< The same with the actor's name set off, as the few tags of styled text say it.

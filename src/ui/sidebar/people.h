@@ -15,6 +15,7 @@ class PersonRow
     Q_PROPERTY(QString key MEMBER key FINAL)
     Q_PROPERTY(QString name MEMBER name FINAL)
     Q_PROPERTY(QString photo MEMBER photo FINAL)
+    Q_PROPERTY(QString color MEMBER color FINAL)
     Q_PROPERTY(bool live MEMBER live FINAL)
     Q_PROPERTY(QString help MEMBER help FINAL)
 
@@ -22,6 +23,7 @@ public:
     QString key; ///< The e-mail address.
     QString name;
     QString photo; ///< Blob key; empty without one.
+    QString color; ///< As the board has it; empty without one.
     bool live = false;
     QString help; ///< "Mira · 5 min ago"
     bool operator==(const PersonRow &) const = default;

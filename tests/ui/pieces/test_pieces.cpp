@@ -26,6 +26,7 @@ private Q_SLOTS:
     void initialsAreThoseOfTheFirstAndTheLastWord();
     void aFactThatIsWrittenFromTheRightTurnsNothingElse();
     void aFaceKeepsItsColourAndWhiteIsReadableOnIt();
+    void aFaceWearsTheBoardsColourAsFarAsWhiteIsReadableOnIt();
     void aShadowIsDarkestUnderItsPanelAndEndsAtItsMargin();
     void theTypefaceHasItsWeights();
     void aFractionOfAPointIsRounded();
@@ -93,6 +94,15 @@ void TestPieces::aFaceKeepsItsColourAndWhiteIsReadableOnIt()
     }
     QCOMPARE(seen.size(), 6);
     QCOMPARE(faceColour(u"mira@lanternhouse.example"_s).rgb(), QRgb(0xFF8A6A2F));
+}
+
+void TestPieces::aFaceWearsTheBoardsColourAsFarAsWhiteIsReadableOnIt()
+{
+    QCOMPARE(faceColour(u"a@x.org"_s, u"#1f5a3d"_s), QColor(0x1f, 0x5a, 0x3d));
+    const QColor light = faceColour(u"a@x.org"_s, u"#ffe08a"_s);
+    QVERIFY(contrast(Qt::white, light) >= 4.5);
+    QVERIFY(light.hsvHue() > 30 && light.hsvHue() < 60);
+    QCOMPARE(faceColour(u"a@x.org"_s, u"no colour"_s), faceColour(u"a@x.org"_s));
 }
 
 void TestPieces::aShadowIsDarkestUnderItsPanelAndEndsAtItsMargin()
