@@ -94,7 +94,7 @@ Item {
                     text: root.row.tag
                     size: 11
                     weight: Font.Bold
-                    color: root.tint.ink
+                    color: root.row.tone === Tone.Neutral ? root.quiet : root.tint.ink
                     spoken: false
                 }
             }

@@ -31,22 +31,43 @@ FocusScope {
         if (top < view.contentY)
             view.contentY = Math.max(0, Math.min(top, furthest));
     }
-    function cardAt(list: Repeater, index: int): Item {
-        const place = list.itemAt(index) as FindingPlace;
-        return place ? place.card : null;
-    }
+    /// Goes to the card by keyboard.
     function step(list: Repeater, index: int) {
-        const card = root.cardAt(list, index);
-        if (card)
-            card.forceActiveFocus(Qt.TabFocusReason);
+        const place = list.itemAt(index) as FindingPlace;
+        if (!place)
+            return;
+        place.built = true;
+        place.card.forceActiveFocus(Qt.TabFocusReason);
     }
+    /// Builds the cards of a column that are in sight or will soon be, and no others: a page may have hundreds. What has
+    /// the keyboard stays.
+    function build(list: Repeater, column: Item) {
+        const from = column.mapFromItem(view, 0, -root.ahead).y;
+        const to = from + view.height + 2 * root.ahead;
+        for (let i = 0; i < list.count; ++i) {
+            const place = list.itemAt(i) as FindingPlace;
+            const near = place.y < to && place.y + place.height > from;
+            if (place.built !== near)
+                place.built = near || place.activeFocus;
+        }
+    }
+    function buildAll() {
+        root.build(cards, column);
+        if (root.showExpected)
+            root.build(settled, folded);
+    }
+    /// How far beyond the column's ends cards are built, and how far it is scrolled before that is looked at again.
+    readonly property int ahead: 600
+    readonly property int stretch: Math.floor(view.contentY / 200)
+    onStretchChanged: root.buildAll()
+    onHeightChanged: root.buildAll()
     /// Brings the card of the finding that got the focus into view, unfolded where it is a settled one. Until the column
     /// has come to rest around it, it is kept there.
     function showFocused() {
         const settledAt = root.state.settledCardOf(Store.focus);
         if (settledAt >= 0)
             root.showExpected = true;
-        root.wanted = settledAt >= 0 ? root.cardAt(settled, settledAt) : root.cardAt(cards, root.state.cardOf(Store.focus));
+        root.wanted = settledAt >= 0 ? settled.itemAt(settledAt) : cards.itemAt(root.state.cardOf(Store.focus));
         if (!root.wanted)
             return;
         root.reveal(root.wanted);
@@ -80,6 +101,7 @@ FocusScope {
 
     Flickable {
         id: view
+        objectName: "column"
         anchors.fill: parent
         contentHeight: sheet.height
         boundsBehavior: Flickable.StopAtBounds
@@ -184,8 +206,10 @@ FocusScope {
                     }
                 }
                 Column {
+                    id: column
                     width: parent.width
                     spacing: 8
+                    onPositioningComplete: root.build(cards, column)
                     Accessible.role: Accessible.List
                     Accessible.name: "Findings"
                     Repeater {
@@ -228,6 +252,7 @@ FocusScope {
                         y: 8
                         width: parent.width
                         spacing: 8
+                        onPositioningComplete: root.build(settled, folded)
                         Repeater {
                             id: settled
                             model: root.state.settled

@@ -11,6 +11,8 @@ Item {
     /// What was typed so far, where the note is being edited anew.
     property string draft: ""
     property bool confirmDelete: false
+    property bool menuOpen: false
+    property bool everOpened: false
     readonly property real indent: root.row.number.length > 0 ? 23 : 0
 
     readonly property bool editing: root.row.editing
@@ -146,8 +148,11 @@ Item {
             icon: "ellipsis"
             size: 13
             help: "Edit or delete"
-            open: menu.open
-            onClicked: menu.open = !root.row.busy
+            open: root.menuOpen
+            onClicked: {
+                root.everOpened = true;
+                root.menuOpen = !root.row.busy;
+            }
         }
     }
     Column {
@@ -191,25 +196,32 @@ Item {
             }
         }
     }
-    Menu {
-        id: menu
-        opener: more
-        titles: ["Edit", "Delete"]
-        destructive: 1
-        onDismissed: menu.open = false
-        onChosen: index => {
-            if (index === 0)
-                root.editRequested();
-            else
-                root.confirmDelete = true;
+    // Few rows ever need them.
+    When {
+        active: root.everOpened
+        Menu {
+            opener: more
+            open: root.menuOpen
+            titles: ["Edit", "Delete"]
+            destructive: 1
+            onDismissed: root.menuOpen = false
+            onChosen: index => {
+                if (index === 0)
+                    root.editRequested();
+                else
+                    root.confirmDelete = true;
+            }
         }
     }
-    Confirmation {
-        opener: more
-        open: root.confirmDelete
-        question: "Delete this note?"
-        action: "Delete"
-        onDismissed: root.confirmDelete = false
-        onConfirmed: root.deleteRequested()
+    When {
+        active: root.everOpened
+        Confirmation {
+            opener: more
+            open: root.confirmDelete
+            question: "Delete this note?"
+            action: "Delete"
+            onDismissed: root.confirmDelete = false
+            onConfirmed: root.deleteRequested()
+        }
     }
 }
