@@ -1,9 +1,21 @@
-// A board in a normal window, with nothing else needed: vexal-demo FOLDER [--shot FILE].
+// The client and a board of its own in one process, signed in, with nothing else needed:
+// vexal-demo --seed FOLDER [--data FOLDER] [--shot FILE].
+#include "boardclient.h"
+#include "demosignin.h"
+#include "desktopopener.h"
+#include "dialogfilepicker.h"
+#include "filepreferences.h"
+#include "launcherbadge.h"
+#include "localboard.h"
+#include "memorycredentialstore.h"
 #include "samplefolder.h"
+#include "systemnetworkpresence.h"
 #include "typeface.h"
 #include "vexalapp.h"
 
+#include <QDir>
 #include <QGuiApplication>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -12,9 +24,47 @@ using namespace vexal;
 
 namespace {
 
-void fetchNothing(const QString &, QObject *, const Images::Fetched &fetched)
+/// A demo counts nothing on anybody's desktop.
+class NoBadge : public LauncherBadge
 {
-    fetched(std::nullopt);
+public:
+    void show(int) override {}
+};
+
+int fail(const QString &why)
+{
+    std::fprintf(stderr, "vexal-demo --seed FOLDER [--data FOLDER] [--shot FILE]: %s\n", qUtf8Printable(why));
+    return 2;
+}
+
+int demo(const QString &email, LocalBoard &board, const QDir &data, const std::optional<LaunchOptions> &options)
+{
+    FilePreferences preferences(data.filePath(u"Vexal.conf"_s), {u"-ServerURL"_s, board.url().toString()});
+    MemoryCredentialStore credentials(board.signInAs(email));
+    const SystemNetworkPresence network;
+    std::function<void(const QUrl &)> opened;
+    DemoSignIn browser(email, [&opened](const QUrl &url) { opened(url); });
+    DesktopOpener opener;
+    NoBadge badge;
+    DialogFilePicker picker;
+    BoardClient client({.preferences = preferences,
+                        .credentials = credentials,
+                        .network = network,
+                        .browser = browser,
+                        .opener = opener,
+                        .badge = badge,
+                        .picker = picker,
+                        .device = u"Demo"_s,
+                        .downloads = data.filePath(u"downloads"_s)});
+    VexalApp app({systemClock(), data.filePath(u"pictures"_s), client.fetch(), client.surroundings()});
+    opened = [&app](const QUrl &url) { app.store().openUrl(url); };
+    app.store().resume();
+    if (options)
+        app.pose(*options);
+    app.show();
+    if (options)
+        captureWhenSettled(options->shot);
+    return QGuiApplication::exec();
 }
 
 } // namespace
@@ -24,18 +74,15 @@ int main(int argc, char **argv)
     prepareProcess();
     const QStringList arguments = commandLine(argc, argv);
     QGuiApplication application(argc, argv);
-    const QString folder = arguments.value(0);
-    auto read = readSample(folder);
-    if (!read.sample) {
-        std::fprintf(stderr, "vexal-demo FOLDER [--shot FILE]: %s holds no sample board\n", qPrintable(folder));
-        return 2;
-    }
+    const QString seed = valueOf(u"--seed", arguments).value_or(QString());
+    const auto sample = readSample(seed).sample;
+    if (!sample)
+        return fail(u"%1 holds no sample board"_s.arg(seed));
+    const QTemporaryDir passing;
+    const QDir data(valueOf(u"--data", arguments).value_or(passing.path()));
+    LocalBoard board({.data = data.filePath(u"board"_s), .seed = seed});
+    if (const auto problem = board.start())
+        return fail(*problem);
     applyTypeface(application, Typeface::Desktops);
-    // The sample's people were busy a moment ago, whenever it is looked at.
-    VexalApp app({clockFrom(latestMoment(*read.sample)), QString(), fetchNothing});
-    app.showSample(std::move(*read.sample), folder);
-    app.show();
-    if (const auto options = launchOptions(arguments))
-        captureWhenSettled(options->shot);
-    return QGuiApplication::exec();
+    return demo(sample->board.me.email, board, data, launchOptions(arguments));
 }

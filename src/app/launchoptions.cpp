@@ -9,14 +9,6 @@ namespace vexal {
 
 namespace {
 
-std::optional<QString> valueOf(QLatin1StringView flag, const QStringList &arguments)
-{
-    const auto found = std::find(arguments.cbegin(), arguments.cend(), flag);
-    if (found == arguments.cend() || std::next(found) == arguments.cend())
-        return std::nullopt;
-    return *std::next(found);
-}
-
 // A number and nothing beside it: toDouble alone would forgive blanks and read "inf" and "nan".
 std::optional<double> number(const QString &text)
 {
@@ -38,6 +30,14 @@ QStringList commandLine(int argc, char **argv)
     return arguments;
 }
 
+std::optional<QString> valueOf(QStringView flag, const QStringList &arguments)
+{
+    const auto found = std::find(arguments.cbegin(), arguments.cend(), flag);
+    if (found == arguments.cend() || std::next(found) == arguments.cend())
+        return std::nullopt;
+    return *std::next(found);
+}
+
 std::optional<QSizeF> sizeFromText(const QString &text)
 {
     const QStringList pieces = text.split(u'x', Qt::SkipEmptyParts);
@@ -52,15 +52,15 @@ std::optional<QSizeF> sizeFromText(const QString &text)
 
 std::optional<LaunchOptions> launchOptions(const QStringList &arguments)
 {
-    const auto shot = valueOf("--shot"_L1, arguments);
+    const auto shot = valueOf(u"--shot", arguments);
     if (!shot)
         return std::nullopt;
     LaunchOptions options;
     options.shot = *shot;
     options.dark = arguments.contains("--dark"_L1);
     options.signin = arguments.contains("--signin"_L1);
-    options.sample = valueOf("--sample"_L1, arguments);
-    if (const auto size = valueOf("--size"_L1, arguments))
+    options.sample = valueOf(u"--sample", arguments);
+    if (const auto size = valueOf(u"--size", arguments))
         options.size = sizeFromText(*size);
     options.multi = arguments.contains("--multi"_L1);
     options.focus = arguments.contains("--focus"_L1);

@@ -25,6 +25,10 @@ struct LaunchOptions
 /// The words after the program's name, as they were given: before Qt takes its own out.
 QStringList commandLine(int argc, char **argv);
 
+/// The argument after the first occurrence of the flag, compared as a whole; nothing when the flag stands last or
+/// nowhere.
+std::optional<QString> valueOf(QStringView flag, const QStringList &arguments);
+
 /// Reads the flags, compared as whole arguments. A flag with a value takes the argument after its first occurrence; a
 /// flag that stands last has none and counts as not given. Nothing without "--shot".
 std::optional<LaunchOptions> launchOptions(const QStringList &arguments);

@@ -1,6 +1,17 @@
+#include "boardclient.h"
+#include "defaultbrowser.h"
+#include "deployment.h"
+#include "desktopopener.h"
+#include "dialogfilepicker.h"
+#include "filepreferences.h"
+#include "hostname.h"
+#include "keyringcredentialstore.h"
 #include "locations.h"
 #include "samplefolder.h"
+#include "singleinstance.h"
+#include "systemnetworkpresence.h"
 #include "typeface.h"
+#include "unitylauncherbadge.h"
 #include "vexalapp.h"
 
 #include <QGuiApplication>
@@ -17,6 +28,7 @@ void fetchNothing(const QString &, QObject *, const Images::Fetched &fetched)
     fetched(std::nullopt);
 }
 
+/// The sample board or the sign-in screen, which need no server.
 int photograph(QGuiApplication &application, const LaunchOptions &options)
 {
     const bool wanted = options.sample && !options.signin;
@@ -38,17 +50,72 @@ int photograph(QGuiApplication &application, const LaunchOptions &options)
     return QGuiApplication::exec();
 }
 
+QList<QUrl> urlsIn(const QStringList &arguments)
+{
+    QList<QUrl> urls;
+    for (const QString &argument : arguments) {
+        if (const QUrl url(argument, QUrl::StrictMode); url.scheme() == QLatin1StringView("vexal"))
+            urls.append(url);
+    }
+    return urls;
+}
+
+/// The client on its server. A photograph of it is no second start: it may be taken beside the one that runs.
+int live(QGuiApplication &application, const QStringList &arguments, const std::optional<LaunchOptions> &options)
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    const QString id = deployment::applicationId.toString();
+    SingleInstance instance(bus, id);
+    if (!options && instance.claim(urlsIn(arguments)) == SingleInstance::Role::Second)
+        return 0;
+
+    applyTypeface(application, options ? Typeface::Ours : Typeface::Desktops);
+    FilePreferences preferences(FilePreferences::defaultPath(), arguments);
+    KeyringCredentialStore credentials(bus, id, preferences);
+    const SystemNetworkPresence network;
+    DesktopOpener opener;
+    DefaultBrowser browser(opener);
+    UnityLauncherBadge badge(bus, id);
+    DialogFilePicker picker;
+    BoardClient client({.preferences = preferences,
+                        .credentials = credentials,
+                        .network = network,
+                        .browser = browser,
+                        .opener = opener,
+                        .badge = badge,
+                        .picker = picker,
+                        .device = hostName(),
+                        .downloads = downloadsFolder()});
+    VexalApp app({systemClock(), picturesFolder(), client.fetch(), client.surroundings()});
+
+    const auto open = [&app](const QList<QUrl> &urls) {
+        for (const QUrl &url : urls)
+            app.store().openUrl(url);
+        app.comeForward();
+    };
+    QObject::connect(&instance, &SingleInstance::opened, &app.store(), open);
+    QObject::connect(&instance, &SingleInstance::activated, &app.store(), [&app] { app.comeForward(); });
+    app.store().resume();
+    if (options)
+        app.pose(*options);
+    whenCredentialIsKnown(credentials, &app.store(), [&] {
+        app.show();
+        if (options)
+            captureWhenSettled(options->shot);
+        else
+            open(urlsIn(arguments));
+    });
+    return QGuiApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const auto options = launchOptions(commandLine(argc, argv));
+    const QStringList arguments = commandLine(argc, argv);
+    const auto options = launchOptions(arguments);
     prepareProcess();
     QGuiApplication application(argc, argv);
-    if (options)
-        return photograph(application, *options);
-    applyTypeface(application, Typeface::Desktops);
-    VexalApp app({systemClock(), picturesFolder(), fetchNothing});
-    app.show();
-    return QGuiApplication::exec();
+    const bool staged = options && (options->signin || options->sample);
+    return staged ? photograph(application, *options) : live(application, arguments, options);
 }

@@ -2,6 +2,8 @@
 
 #include "appearance.h"
 #include "capture.h"
+#include "credentialstore.h"
+#include "deployment.h"
 #include "remoteimage.h"
 #include "storeinqml.h"
 #include "typeface.h"
@@ -23,6 +25,7 @@ constexpr QSize standardSize(1500, 940);
 constexpr QSize smallestSize(1180, 720);
 constexpr int largestSide = 16384; ///< What a window system can hold, with room to spare.
 constexpr auto settlingTime = 3s;
+constexpr auto longestWaitForCredential = 300ms;
 
 QSize windowSize(QSizeF asked)
 {
@@ -33,11 +36,12 @@ QSize windowSize(QSizeF asked)
 } // namespace
 
 VexalApp::VexalApp(Parts parts)
-    : m_store(std::move(parts.clock))
+    : m_store(parts.surroundings ? std::make_unique<Store>(std::move(parts.clock), *parts.surroundings)
+                                 : std::make_unique<Store>(std::move(parts.clock)))
     , m_images(parts.pictureFolder, std::move(parts.fetch))
     , m_window(&m_engine, nullptr)
 {
-    giveStore(m_engine, m_store);
+    giveStore(m_engine, *m_store);
     giveImages(m_engine, m_images);
     m_window.setTitle(u"Vexal"_s);
     m_window.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -63,7 +67,7 @@ void VexalApp::pose(const LaunchOptions &options)
 void VexalApp::showSample(Sample sample, const QString &folder)
 {
     m_images.addSamples(folder);
-    m_store.takeSample(std::move(sample));
+    m_store->takeSample(std::move(sample));
 }
 
 void VexalApp::show()
@@ -72,10 +76,33 @@ void VexalApp::show()
     m_window.show();
 }
 
+void VexalApp::comeForward()
+{
+    if (m_window.windowStates().testFlag(Qt::WindowMinimized))
+        m_window.showNormal();
+    m_window.raise();
+    m_window.requestActivate();
+}
+
+void whenCredentialIsKnown(CredentialStore &credentials, QObject *context, std::function<void()> then)
+{
+    if (credentials.known())
+        return then();
+    auto *wait = new QTimer(context);
+    wait->setSingleShot(true);
+    QObject::connect(wait, &QTimer::timeout, context, [wait, then = std::move(then)] {
+        wait->deleteLater();
+        then();
+    });
+    QObject::connect(&credentials, &CredentialStore::becameKnown, wait, [wait] { wait->start(0); });
+    wait->start(longestWaitForCredential);
+}
+
 void prepareProcess()
 {
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     QCoreApplication::setApplicationName(u"Vexal"_s);
+    QGuiApplication::setDesktopFileName(deployment::applicationId.toString());
 }
 
 void captureWhenSettled(const QString &path)

@@ -4,11 +4,13 @@
 #include "images.h"
 #include "launchoptions.h"
 #include "store.h"
+#include "surroundings.h"
 
 #include <QQmlEngine>
 #include <QQuickView>
 
 #include <memory>
+#include <optional>
 
 namespace vexal {
 
@@ -16,8 +18,9 @@ namespace vexal {
 struct Parts
 {
     Clock clock;
-    QString pictureFolder; ///< Where pictures are kept between runs.
-    Images::Fetch fetch;   ///< How the bytes of a picture are had.
+    QString pictureFolder;                         ///< Where pictures are kept between runs.
+    Images::Fetch fetch;                           ///< How the bytes of a picture are had.
+    std::optional<Surroundings> surroundings = {}; ///< Those of a live store; without them there is no server.
 };
 
 /// The running application: the one store, the one picture cache and the one window, joined.
@@ -27,7 +30,7 @@ public:
     explicit VexalApp(Parts parts);
     ~VexalApp();
 
-    Store &store() { return m_store; }
+    Store &store() { return *m_store; }
     Images &images() { return m_images; }
     QQuickView &window() { return m_window; }
 
@@ -38,13 +41,19 @@ public:
     void showSample(Sample sample, const QString &folder);
     /// Opens the window.
     void show();
+    /// Brings the open window before the others, as far as the desktop lets a program do that.
+    void comeForward();
 
 private:
-    Store m_store;
+    std::unique_ptr<Store> m_store;
     Images m_images;
     QQmlEngine m_engine;
     QQuickView m_window;
 };
+
+/// Lets `then` wait for the credential store's answer, but not for long: the first frame must neither be late nor show
+/// the sign-in screen to someone who is signed in.
+void whenCredentialIsKnown(CredentialStore &credentials, QObject *context, std::function<void()> then);
 
 /// What has to be said to Qt before the application object is made.
 void prepareProcess();

@@ -14,6 +14,7 @@ namespace limit {
 
 inline constexpr qint64 json = 64LL * 1024 * 1024;
 inline constexpr qint64 pdf = 256LL * 1024 * 1024;
+inline constexpr qint64 picture = pdf;
 
 } // namespace limit
 

@@ -49,7 +49,6 @@ class Store : public QObject
     Q_PROPERTY(bool refreshing READ refreshing NOTIFY refreshingChanged)
     Q_PROPERTY(bool showActivity READ showActivity NOTIFY showActivityChanged)
     Q_PROPERTY(bool signingIn READ signingIn NOTIFY signingInChanged)
-    Q_PROPERTY(QUrl signInPage READ signInPage NOTIFY signingInChanged)
 
 public:
     /// How the canvas compares the two pages.

@@ -154,7 +154,7 @@ private Q_SLOTS:
     void aPropertyIsWrittenByNobodyAndToldOfByItsSignal()
     {
         const QMetaObject &meta = Store::staticMetaObject;
-        QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 17);
+        QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 16);
         for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
             const QMetaProperty property = meta.property(i);
             QVERIFY2(property.isReadable() && !property.isWritable() && property.hasNotifySignal(), property.name());

@@ -47,7 +47,7 @@ public:
     QList<QQuickItem *> all(const QByteArray &type) const
     {
         QList<QQuickItem *> found;
-        collect(m_window.rootObject(), type, found);
+        collect(m_window.contentItem(), type, found); // overlays lie beside the root
         return found;
     }
 

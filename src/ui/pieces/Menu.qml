@@ -9,6 +9,8 @@ Overlay {
     required property list<string> titles
     /// The one that cannot be taken back, set off by its colour; -1 for none.
     property int destructive: -1
+    /// A rule sets this one and those after it off from the others; -1 for none.
+    property int ruled: -1
     /// The one that the keyboard or the pointer is on; -1 for none.
     property int current: -1
 
@@ -16,6 +18,7 @@ Overlay {
 
     readonly property int margin: 8
     readonly property int rowHeight: 28
+    property real rowWidth: 112
 
     Accessible.role: Accessible.PopupMenu
     Accessible.name: (root.opener as Pressable)?.name ?? ""
@@ -66,17 +69,16 @@ Overlay {
             Repeater {
                 model: root.titles
 
-                Rectangle {
+                Item {
                     id: row
                     required property string modelData
                     required property int index
                     readonly property bool current: row.index === root.current
+                    readonly property int above: row.index === root.ruled ? 9 : 0
 
                     objectName: "choice" + row.index
-                    width: Math.max(112, words.implicitWidth + 20)
-                    height: root.rowHeight
-                    radius: 6
-                    color: row.current ? Theme.pressed : "transparent"
+                    width: root.rowWidth
+                    height: root.rowHeight + row.above
 
                     Accessible.role: Accessible.MenuItem
                     Accessible.name: row.modelData
@@ -84,12 +86,25 @@ Overlay {
                     Accessible.focused: row.current
                     Accessible.onPressAction: root.choose(row.index)
 
+                    Rule {
+                        visible: row.above > 0
+                        x: 10
+                        y: 4
+                        width: parent.width - 20
+                    }
+                    Rectangle {
+                        anchors.fill: parent
+                        anchors.topMargin: row.above
+                        radius: 6
+                        color: row.current ? Theme.pressed : "transparent"
+                    }
                     Label {
                         id: words
-                        anchors.verticalCenter: parent.verticalCenter
+                        y: row.above + (root.rowHeight - height) / 2
                         x: 10
                         text: row.modelData
                         size: 13
+                        onImplicitWidthChanged: root.rowWidth = Math.max(root.rowWidth, implicitWidth + 20)
                         color: row.index === root.destructive ? Theme.issue.ink : Theme.text
                         spoken: false
                     }

@@ -74,6 +74,8 @@ QtObject {
     readonly property real chosenWash: 0.55
     readonly property real chosenOutline: 0.45
     readonly property real focusRing: 0.7
+    readonly property real updateWash: 0.09
+    readonly property real offlineWash: 0.13
     readonly property real fieldFocus: 0.6
     /// The ground of what differs in two texts: on our side in the colour of text, on theirs in the accent.
     readonly property real oursWash: 0.09

@@ -26,12 +26,26 @@ FocusScope {
         id: file
         store: Store
     }
+    UpdateBanner {
+        id: update
+        anchors.left: rule.right
+        anchors.right: parent.right
+        state: root.state
+    }
+    OfflineBanner {
+        id: offline
+        anchors.left: rule.right
+        anchors.right: parent.right
+        anchors.top: update.bottom
+        state: root.state
+    }
     FocusScope {
         id: detail
         focus: true
         anchors.left: rule.right
         anchors.right: parent.right
-        height: parent.height
+        anchors.top: offline.bottom
+        anchors.bottom: parent.bottom
 
         When {
             active: root.state.place === RootState.OneFile

@@ -20,10 +20,13 @@ FocusScope {
         SignInView {
             anchors.fill: parent
             focus: true
-            working: false
+            working: Store.signingIn
+            canCopyLink: board.canCopySignInLink
             emailDomain: board.emailDomain
             dedication: board.dedication
             onSignInRequested: board.signIn()
+            onCancelRequested: board.cancelSignIn()
+            onLinkRequested: board.copySignInLink()
         }
     }
     When {

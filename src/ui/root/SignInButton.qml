@@ -3,15 +3,18 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.Root
 
-/// Starts the sign-in; white in both appearances. While one is under way it stays as it is, turns and takes no press.
+/// Starts the sign-in; white in both appearances. While one is under way it turns, and another press begins anew.
 Pressable {
     id: root
+
+    /// A sign-in is under way.
+    property bool working: false
 
     // The label looks centred with a little more room after it than before the logo.
     implicitWidth: 17 + logo.width + row.spacing + Math.ceil(measure.advanceWidth) + 20
     implicitHeight: 44
     radius: 11
-    name: root.busy ? qsTr("Opening Google…") : qsTr("Sign in with Google")
+    name: root.working ? qsTr("Opening Google…") : qsTr("Sign in with Google")
 
     TextMetrics {
         id: measure
@@ -41,11 +44,11 @@ Pressable {
             width: 18
             height: 18
             GoogleG {
-                visible: !root.busy
+                visible: !root.working
             }
             Spinner {
                 anchors.centerIn: parent
-                visible: root.busy
+                visible: root.working
                 size: 16
                 color: Theme.onPaper
             }

@@ -9,12 +9,18 @@ Item {
 
     /// A sign-in is under way.
     required property bool working
+    /// The page that the browser should have opened is still to be gone through.
+    property bool canCopyLink: false
     /// The organisation's e-mail domain, without the at-sign.
     required property string emailDomain
     required property string dedication
 
     /// The person wants to sign in.
     signal signInRequested
+    /// They have thought better of it.
+    signal cancelRequested
+    /// They want to open the page themselves.
+    signal linkRequested
 
     property bool appeared: Theme.resting
     readonly property int apart: Theme.reducedMotion ? 0 : 40
@@ -96,7 +102,7 @@ Item {
         SignInButton {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "button"
-            busy: root.working
+            working: root.working
             onClicked: root.signInRequested()
         }
         Gap { height: 16 }
@@ -109,6 +115,30 @@ Item {
             lineHeight: 17
             lineHeightMode: Text.FixedHeight
             color: Theme.secondary
+        }
+        Gap { height: 14 }
+        // Its room is kept, so that nothing moves when it comes.
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 18
+            opacity: root.working ? 1 : 0
+            enabled: root.working
+            Behavior on opacity {
+                StandardFade {}
+            }
+            TextButton {
+                objectName: "cancel"
+                title: qsTr("Cancel")
+                size: 12
+                onClicked: root.cancelRequested()
+            }
+            TextButton {
+                objectName: "link"
+                visible: root.canCopyLink
+                title: qsTr("Copy link")
+                size: 12
+                onClicked: root.linkRequested()
+            }
         }
     }
     Label {

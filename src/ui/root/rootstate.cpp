@@ -2,6 +2,10 @@
 
 #include "deployment.h"
 
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace vexal {
@@ -28,9 +32,15 @@ void RootState::setStore(Store *store)
     connect(store, &Store::boardChanged, this, &RootState::update);
     connect(store, &Store::selectionChanged, this, &RootState::update);
     connect(store, &Store::toastChanged, this, &RootState::updateToast);
+    connect(store, &Store::signingInChanged, this, &RootState::signInChanged);
+    connect(store, &Store::updateChanged, this, &RootState::bannersChanged);
+    connect(store, &Store::problemChanged, this, &RootState::bannersChanged);
+    connect(store, &Store::boardChanged, this, &RootState::bannersChanged);
     Q_EMIT storeChanged();
     update();
     updateToast();
+    Q_EMIT bannersChanged();
+    Q_EMIT signInChanged();
 }
 
 QString RootState::emptyTitle() const
@@ -66,7 +76,45 @@ QString RootState::dedication() const
 
 void RootState::signIn()
 {
-    m_store->showToast(u"Sign-in didn't finish. Try again."_s);
+    m_store->signIn();
+}
+
+void RootState::cancelSignIn()
+{
+    m_store->cancelSignIn();
+}
+
+void RootState::copySignInLink()
+{
+    QGuiApplication::clipboard()->setText(m_store->signInPage().toString(QUrl::FullyEncoded));
+    m_store->showToast(u"Link copied."_s);
+}
+
+QString RootState::updateTitle() const
+{
+    return m_store->update() ? u"Vexal "_s + m_store->update()->version + u" is ready."_s : QString();
+}
+
+QString RootState::updateNotes() const
+{
+    return m_store->update() ? m_store->update()->notes.value_or(QString()) : QString();
+}
+
+void RootState::download() const
+{
+    const QUrl page = m_store->update() ? QUrl(m_store->update()->url, QUrl::StrictMode) : QUrl();
+    if (page.isValid() && (page.scheme() == "https"_L1 || page.scheme() == "http"_L1))
+        QDesktopServices::openUrl(page);
+}
+
+void RootState::dismissUpdate()
+{
+    m_store->dismissUpdate();
+}
+
+QString RootState::problem() const
+{
+    return m_store->board() ? m_store->problem().value_or(QString()) : QString();
 }
 
 void RootState::update()

@@ -18,6 +18,10 @@ class RootState : public QObject
     Q_PROPERTY(QString toastId READ toastId NOTIFY toastChanged FINAL)
     Q_PROPERTY(QString toastText READ toastText NOTIFY toastChanged FINAL)
     Q_PROPERTY(QString undoLabel READ undoLabel NOTIFY toastChanged FINAL)
+    Q_PROPERTY(QString updateTitle READ updateTitle NOTIFY bannersChanged FINAL)
+    Q_PROPERTY(QString updateNotes READ updateNotes NOTIFY bannersChanged FINAL)
+    Q_PROPERTY(QString problem READ problem NOTIFY bannersChanged FINAL)
+    Q_PROPERTY(bool canCopySignInLink READ canCopySignInLink NOTIFY signInChanged FINAL)
     Q_PROPERTY(QString emailDomain READ emailDomain CONSTANT FINAL)
     Q_PROPERTY(QString dedication READ dedication CONSTANT FINAL)
 
@@ -46,6 +50,22 @@ public:
     /// Does what the toast's button promises.
     Q_INVOKABLE void undoToast();
 
+    /// What the banner of a newer version says; empty without one.
+    QString updateTitle() const;
+    QString updateNotes() const;
+    /// Opens the page that has the newer version. One that is no page of the web is not opened.
+    Q_INVOKABLE void download() const;
+    /// Takes the offer away.
+    Q_INVOKABLE void dismissUpdate();
+    /// Why the board that shows is not the newest; empty when it is, or when there is none yet.
+    QString problem() const;
+
+    /// The sign-in page waits for the person.
+    bool canCopySignInLink() const { return !m_store->signInPage().isEmpty(); }
+    /// Puts the address of the sign-in page into the clipboard, for a browser that did not come by itself.
+    Q_INVOKABLE void copySignInLink();
+    Q_INVOKABLE void cancelSignIn();
+
     /// What the sign-in screen says of this deployment.
     QString emailDomain() const;
     QString dedication() const;
@@ -56,6 +76,8 @@ Q_SIGNALS:
     void storeChanged();
     void changed();
     void toastChanged();
+    void bannersChanged();
+    void signInChanged();
 
 private:
     void update();

@@ -47,9 +47,20 @@ Rectangle {
             size: 21
             weight: Font.DemiBold
         }
-        LiveDot {
+        IconButton {
+            id: refresh
             anchors.right: parent.right
-            anchors.rightMargin: 16
+            anchors.rightMargin: 9
+            anchors.verticalCenter: name.verticalCenter
+            icon: "arrow.clockwise"
+            size: 12
+            help: "Refresh"
+            busy: Store.refreshing
+            onClicked: Store.refreshNow()
+        }
+        LiveDot {
+            anchors.right: refresh.left
+            anchors.rightMargin: 5
             anchors.verticalCenter: name.verticalCenter
             text: sidebar.liveText
             tone: sidebar.liveTone
@@ -61,6 +72,9 @@ Rectangle {
         x: 12
         width: parent.width - 24
         state: sync
+        canAct: true
+        onSyncRequested: Store.startSync()
+        onStopRequested: jobId => Store.stopJob(jobId)
         // The files keep the larger part of the column.
         mostUnfolded: 0.4 * root.height
     }

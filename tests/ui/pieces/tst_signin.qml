@@ -22,6 +22,14 @@ TestCase {
         }
     }
     SignalSpy {
+        id: cancels
+        signalName: "cancelRequested"
+    }
+    SignalSpy {
+        id: links
+        signalName: "linkRequested"
+    }
+    SignalSpy {
         id: requests
         signalName: "signInRequested"
     }
@@ -68,8 +76,25 @@ TestCase {
         compare(button.width, before);
         compare(button.opacity, 1);
         mouseClick(button);
-        button.Accessible.pressAction();
-        compare(requests.count, 0);
+        compare(requests.count, 1); // begins anew
+    }
+
+    function test_whileItWorksItCanBeCancelledOrOpenedElsewhere() {
+        const piece = createTemporaryObject(screen, test);
+        const cancel = findChild(piece, "cancel");
+        const link = findChild(piece, "link");
+        verify(!cancel.enabled);
+        piece.working = true;
+        tryCompare(cancel.parent, "opacity", 1);
+        verify(!link.visible);
+        piece.canCopyLink = true;
+        verify(link.visible);
+        cancels.target = piece;
+        links.target = piece;
+        cancel.press();
+        compare(cancels.count, 1);
+        link.press();
+        compare(links.count, 1);
     }
 
     function test_theTwoFilesMeet() {

@@ -1,8 +1,9 @@
-#include "boards.h"
+#include "livestore.h"
 #include "rootstate.h"
 #include "screen.h"
-#include "testclock.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -43,9 +44,18 @@ private Q_SLOTS:
     void aFileThatLeftTheBoardIsNotShown();
     void theToastStands22PointsAboveTheFoot();
     void theToastStandsOnTheSignInScreenToo();
+    void aProblemShowsABannerOverTheBoardUntilItHasPassed();
+    void aProblemBeforeTheFirstBoardShowsNone();
+    void aNewerVersionIsOfferedAboveTheProblem();
+    void anOfferWithoutNotesShowsNone();
+    void signingInWaitsForThePersonWhoMayThinkBetterOfIt();
+    void theSignInPageCanBeOpenedElsewhere();
+    void theAccountMenuSignsOut();
+    void theAccountMenuChangesThePhoto();
 
 private:
-    void show() { m_screen = std::make_unique<Screen>(*m_store, rootQml, QSize(1180, 720)); }
+    const QSize m_size{1180, 720};
+    void show() { m_screen = std::make_unique<Screen>(*m_store, rootQml, m_size); }
 
     TestClock m_clock;
     std::unique_ptr<Store> m_store;
@@ -138,6 +148,123 @@ void RootTest::theToastStandsOnTheSignInScreenToo()
     show();
     m_store->showToast(u"You're signed out. Sign in again."_s);
     QVERIFY(m_screen->only("ToastView"));
+}
+
+void RootTest::aProblemShowsABannerOverTheBoardUntilItHasPassed()
+{
+    LiveStore live;
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    QVERIFY(screen.all("OfflineBanner").isEmpty());
+    live.client.server.goDown();
+    live.round();
+    QTRY_COMPARE(screen.all("OfflineBanner").size(), 1);
+    QVERIFY(screen.texts().contains(u"Can't reach the Vexal server right now. Trying again…"_s));
+    QVERIFY(screen.texts().contains(u"What's here stays. It tries again on its own."_s));
+    QVERIFY(screen.only("FileView"));
+    live.client.server.comeUp();
+    live.round();
+    QTRY_VERIFY(screen.all("OfflineBanner").isEmpty());
+}
+
+void RootTest::aProblemBeforeTheFirstBoardShowsNone()
+{
+    LiveStore live;
+    live.client.server.on("GET", "/api/state").answer(500);
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    QVERIFY(live.store.problem());
+    QVERIFY(screen.all("OfflineBanner").isEmpty());
+    QVERIFY(screen.texts().contains(u"Loading the board…"_s));
+}
+
+void RootTest::aNewerVersionIsOfferedAboveTheProblem()
+{
+    LiveStore live;
+    live.client.server.on("GET", "/version.json")
+        .answer(200, R"({"version":"2.0","build":8,"url":"https://x.example/","notes":"Faster\nand calmer."})");
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    QTRY_VERIFY(screen.texts().contains(u"Vexal 2.0 is ready."_s));
+    QVERIFY(screen.texts().contains(u"Faster and calmer."_s));
+    live.client.server.goDown();
+    live.round();
+    QTRY_COMPARE(screen.all("OfflineBanner").size(), 1);
+    const auto head = [&](const char *type) { return screen.only(type)->mapToScene({}).y(); };
+    QCOMPARE(head("UpdateBanner"), 0.0);
+    QTRY_COMPARE(head("OfflineBanner"), screen.only("UpdateBanner")->height());
+    screen.click(screen.only("UpdateBanner")->findChild<QQuickItem *>(u"close"_s));
+    QTRY_VERIFY(screen.all("UpdateBanner").isEmpty());
+    QVERIFY(!live.store.update());
+}
+
+void RootTest::anOfferWithoutNotesShowsNone()
+{
+    LiveStore live;
+    live.client.server.on("GET", "/version.json").answer(200, R"({"version":"2.0","build":8,"url":"no url at all"})");
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    QTRY_VERIFY(screen.texts().contains(u"Vexal 2.0 is ready."_s));
+    // What is no page of the web opens nothing, and says nothing.
+    screen.click(screen.only("UpdateBanner")->findChild<QQuickItem *>(u"download"_s));
+    QVERIFY(live.store.update());
+    QVERIFY(!live.store.toast());
+}
+
+void RootTest::signingInWaitsForThePersonWhoMayThinkBetterOfIt()
+{
+    LiveStore live;
+    live.client.credentials.forget();
+    Screen screen(live.store, rootQml, m_size);
+    screen.click(screen.only("SignInButton"));
+    QTRY_VERIFY(screen.texts().contains(u"Opening Google…"_s));
+    QCOMPARE(live.browser.pages.size(), 1);
+    screen.click(screen.only("SignInButton"));
+    QCOMPARE(live.browser.pages.size(), 2);
+    QVERIFY(live.store.signingIn());
+    const auto *cancel = screen.only("SignInView")->findChild<QQuickItem *>(u"cancel"_s);
+    QTRY_COMPARE(cancel->parentItem()->opacity(), 1.0);
+    screen.click(cancel);
+    QTRY_VERIFY(screen.texts().contains(u"Sign in with Google"_s));
+    QVERIFY(!live.store.toast());
+}
+
+void RootTest::theSignInPageCanBeOpenedElsewhere()
+{
+    LiveStore live;
+    live.client.credentials.forget();
+    Screen screen(live.store, rootQml, m_size);
+    screen.click(screen.only("SignInButton"));
+    const auto *link = screen.only("SignInView")->findChild<QQuickItem *>(u"link"_s);
+    QTRY_COMPARE(link->parentItem()->opacity(), 1.0);
+    screen.click(link);
+    QTRY_COMPARE(QGuiApplication::clipboard()->text(), live.store.signInPage().toString(QUrl::FullyEncoded));
+    QCOMPARE(live.toast(), u"Link copied."_s);
+}
+
+void RootTest::theAccountMenuSignsOut()
+{
+    LiveStore live;
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    screen.click(screen.only("AccountMenu"));
+    QTRY_VERIFY(screen.texts().contains(u"Change my photo…"_s));
+    screen.press(Qt::Key_Down);
+    screen.press(Qt::Key_Return);
+    QVERIFY(!live.store.signedIn());
+    QTRY_VERIFY(screen.only("SignInView"));
+}
+
+void RootTest::theAccountMenuChangesThePhoto()
+{
+    LiveStore live;
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    screen.click(screen.only("AccountMenu"));
+    QTRY_VERIFY(screen.texts().contains(u"Sign out"_s));
+    screen.press(Qt::Key_Return);
+    QCOMPARE(live.picker.messages, QStringList{u"Pick a photo for your profile."_s});
+    QVERIFY(live.store.signedIn());
 }
 
 QTEST_MAIN(RootTest)
