@@ -57,6 +57,7 @@ private Q_SLOTS:
     void thePlaceholderAsksForTheClick();
     void theFieldGrowsToEightLinesAndScrolls();
     void tabLeavesTheField();
+    void theTextOfANoteIsSelectedByTheMouse();
     void aNoteIsResolvedAndReopened();
     void aNoteIsEdited();
     void aRefusedEditStaysOpenWithWhatWasTyped();
@@ -331,6 +332,20 @@ void WritingTest::tabLeavesTheField()
     m_on->screen->press(Qt::Key_Backtab, Qt::ShiftModifier);
     QCOMPARE(m_on->focus(), m_on->field());
     QCOMPARE(written(), u"x"_s);
+}
+
+void WritingTest::theTextOfANoteIsSelectedByTheMouse()
+{
+    show({aNote(u"n"_s, u"A line of a note\n"_s.repeated(60))});
+    QQuickItem *text = ofRow(u"text"_s);
+    QQuickWindow *window = &m_on->screen->window();
+    const QPoint from = text->mapToScene({2, 4}).toPoint();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+    for (int down = 1; down <= 60; ++down)
+        QTest::mouseMove(window, from + QPoint(0, down));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, from + QPoint(0, 60));
+    QVERIFY(text->property("selectedText").toString().size() > 30);
+    QCOMPARE(m_on->named(u"column"_s)->property("contentY").toReal(), 0.0);
 }
 
 void WritingTest::aNoteIsResolvedAndReopened()
