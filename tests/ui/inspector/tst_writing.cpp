@@ -45,6 +45,7 @@ private Q_SLOTS:
     void aNoteIsPostedAndItsTextGoes();
     void aNoteOnItsWayIsNotPostedAgain();
     void aRefusedNoteKeepsItsTextAndItsPlace();
+    void aDraftThatComesBackTakesNoFocus();
     void blanksAreNotPosted();
     void controlReturnPosts();
     void returnAloneIsALine();
@@ -176,6 +177,20 @@ void WritingTest::aRefusedNoteKeepsItsTextAndItsPlace()
     QCOMPARE(written(), u"Here"_s);
     QCOMPARE(m_on->context(), u"Note pinned on page 1"_s);
     QVERIFY(m_on->named(u"post"_s)->isEnabled());
+}
+
+void WritingTest::aDraftThatComesBackTakesNoFocus()
+{
+    show();
+    m_on->live.client.server.on("POST", "/api/comments").answer(500);
+    m_on->live.store.answerFinding(u"a"_s);
+    write(u"Here"_s);
+    QQuickItem *card = m_on->card(u"Title of a"_s);
+    card->forceActiveFocus();
+    m_on->screen->click(m_on->named(u"post"_s));
+    m_on->waitForEnd();
+    QCOMPARE(m_on->context(), u"Note on: Title of a"_s);
+    QCOMPARE(m_on->focus(), card);
 }
 
 void WritingTest::blanksAreNotPosted()
