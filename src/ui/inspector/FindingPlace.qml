@@ -12,7 +12,7 @@ FocusScope {
     required property int index
     required property InspectorState state
     property bool compact: false
-    property bool built: root.index < 6
+    property bool built: root.index < 6 && !root.compact
     /// How high the card was last, or may be.
     property real room: root.compact ? 76 : 150
     readonly property FindingCard card: cards.count > 0 ? cards.itemAt(0) as FindingCard : null

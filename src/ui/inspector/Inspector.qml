@@ -61,6 +61,7 @@ FocusScope {
     readonly property int stretch: Math.floor(view.contentY / 200)
     onStretchChanged: root.buildAll()
     onHeightChanged: root.buildAll()
+    onShowExpectedChanged: root.buildAll()
     /// Brings the card of the finding that got the focus into view, unfolded where it is a settled one. Until the column
     /// has come to rest around it, it is kept there.
     function showFocused() {
@@ -209,7 +210,7 @@ FocusScope {
                     id: column
                     width: parent.width
                     spacing: 8
-                    onPositioningComplete: root.build(cards, column)
+                    onPositioningComplete: root.buildAll()
                     Accessible.role: Accessible.List
                     Accessible.name: "Findings"
                     Repeater {
@@ -252,7 +253,7 @@ FocusScope {
                         y: 8
                         width: parent.width
                         spacing: 8
-                        onPositioningComplete: root.build(settled, folded)
+                        onPositioningComplete: root.buildAll()
                         Repeater {
                             id: settled
                             model: root.state.settled
