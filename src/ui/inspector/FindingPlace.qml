@@ -21,6 +21,12 @@ FocusScope {
 
     signal stepped(by: int)
 
+    /// Goes to the card by keyboard.
+    function enter() {
+        root.built = true;
+        root.card.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitHeight: root.above + root.room
 
     When {
