@@ -1,5 +1,5 @@
-// Shows every piece in all its states: `--dark` in the dark appearance, `--signin` the sign-in screen instead, and with
-// `--shot FILE` photographs the window and ends.
+// Shows every piece in all its states: `--dark` in the dark appearance, `--signin` the sign-in screen instead,
+// `--review` what a page is reviewed with, and with `--shot FILE` photographs the window and ends.
 #include "appearance.h"
 #include "typeface.h"
 
@@ -41,7 +41,8 @@ int main(int argc, char **argv)
     const QString shot = valueAfter(arguments, u"--shot"_s);
     appearance.setResting(!shot.isEmpty());
 
-    engine.setInitialProperties({{u"signIn"_s, arguments.contains("--signin"_L1)}});
+    engine.setInitialProperties(
+        {{u"signIn"_s, arguments.contains("--signin"_L1)}, {u"review"_s, arguments.contains("--review"_L1)}});
     engine.load(u"qrc:/qt-project.org/imports/Vexal/Gallery/Gallery.qml"_s);
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     if (!window)

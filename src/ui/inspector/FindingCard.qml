@@ -75,38 +75,11 @@ Item {
         y: 12
         width: parent.width - 24
 
-        Item {
+        SeverityLine {
             visible: !root.compact
             width: parent.width
-            height: 16
-            Row {
-                anchors.verticalCenter: parent.verticalCenter
-                spacing: 5
-                Rectangle {
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: 6
-                    height: 6
-                    radius: 3
-                    color: root.tint.plain
-                }
-                Label {
-                    objectName: "tag"
-                    text: root.row.tag
-                    size: 11
-                    weight: Font.Bold
-                    color: root.tint.ink
-                    spoken: false
-                }
-            }
-            Symbol {
-                objectName: "scope"
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                visible: root.row.placed
-                name: "scope"
-                size: 12
-                color: root.row.focused ? root.tint.ink : Theme.tertiary
-            }
+            row: root.row
+            quiet: root.quiet
         }
         Label {
             objectName: "title"

@@ -12,11 +12,20 @@ FocusScope {
     /// The settled findings are unfolded.
     property bool showExpected: false
     readonly property string file: root.state.file
+    /// What has the keyboard, in here.
+    readonly property Item keyboard: root.activeFocus ? root.Window.activeFocusItem : null
+    /// The card that is being brought into view, until the column has come to rest around it.
+    property Item wanted: null
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Inspector"
 
     onFileChanged: root.showExpected = false
+    // The keyboard never goes where nothing shows.
+    onKeyboardChanged: {
+        if (root.keyboard && root.keyboard !== root)
+            root.reveal(root.keyboard);
+    }
 
     /// Scrolls as little as shows the item whole. What is larger than the column stays where it is in sight.
     function reveal(item: Item) {
@@ -31,28 +40,17 @@ FocusScope {
         if (top < view.contentY)
             view.contentY = Math.max(0, Math.min(top, furthest));
     }
-    function cardAt(list: Repeater, index: int): Item {
-        const place = list.itemAt(index) as FindingPlace;
-        return place ? place.card : null;
-    }
-    function step(list: Repeater, index: int) {
-        const card = root.cardAt(list, index);
-        if (card)
-            card.forceActiveFocus(Qt.TabFocusReason);
-    }
-    /// Brings the card of the finding that got the focus into view, unfolded where it is a settled one. Until the column
-    /// has come to rest around it, it is kept there.
+    /// Brings the card of the finding that got the focus into view, unfolded where it is a settled one.
     function showFocused() {
         const settledAt = root.state.settledCardOf(Store.focus);
         if (settledAt >= 0)
             root.showExpected = true;
-        root.wanted = settledAt >= 0 ? root.cardAt(settled, settledAt) : root.cardAt(cards, root.state.cardOf(Store.focus));
+        root.wanted = settledAt >= 0 ? settled.placeAt(settledAt) : cards.placeAt(root.state.cardOf(Store.focus));
         if (!root.wanted)
             return;
         root.reveal(root.wanted);
         rest.restart();
     }
-    property Item wanted: null
 
     Timer {
         id: rest
@@ -71,15 +69,10 @@ FocusScope {
             view.contentY = 0;
         }
     }
-    // The keyboard never goes where nothing shows.
-    readonly property Item keyboard: root.activeFocus ? root.Window.activeFocusItem : null
-    onKeyboardChanged: {
-        if (root.keyboard && root.keyboard !== root)
-            root.reveal(root.keyboard);
-    }
 
     Flickable {
         id: view
+        objectName: "column"
         anchors.fill: parent
         contentHeight: sheet.height
         boundsBehavior: Flickable.StopAtBounds
@@ -97,152 +90,58 @@ FocusScope {
             topPadding: 16
             bottomPadding: 16
 
-            component Divider: Item {
-                property int above: 14
-                property int below: 14
-                width: sheet.width
-                height: above + below
-                Rule {
-                    y: parent.above
-                    width: parent.width
-                }
-            }
-
             Column {
                 width: parent.width
                 visible: root.state.hasPage
 
-                Row {
-                    spacing: 8
-                    Label {
-                        id: title
-                        width: Math.min(implicitWidth, sheet.width - found.width - 8)
-                        text: root.review.title
-                        size: 21
-                        weight: Font.DemiBold
-                        Accessible.role: Accessible.Heading
-                    }
-                    Label {
-                        id: found
-                        anchors.baseline: title.baseline
-                        text: root.review.found
-                        size: 12
-                        weight: Font.DemiBold
-                        color: Theme.secondary
-                    }
+                PageHeading {
+                    width: parent.width
+                    review: root.review
                 }
                 Divider {
+                    width: parent.width
                     above: 12
                 }
-                When {
-                    active: root.review.readFromPicture
-                    Item {
-                        width: sheet.width
-                        height: notice.height + 14
-                        Rectangle {
-                            id: notice
-                            objectName: "notice"
-                            width: parent.width
-                            height: words.height + 24
-                            radius: 12
-                            color: Theme.soft
-                            Label {
-                                id: words
-                                x: 12
-                                y: 12
-                                width: parent.width - 24
-                                text: "This page has no live text, so its words were read from the picture. Check them by eye."
-                                size: 11.5
-                                lineHeight: 16
-                                lineHeightMode: Text.FixedHeight
-                                wrapMode: Text.Wrap
-                                color: Theme.secondary
-                            }
-                        }
-                    }
-                }
-                When {
-                    active: root.review.empty
-                    Column {
-                        width: sheet.width
-                        spacing: 3
-                        Label {
-                            width: parent.width
-                            text: "Nothing different here."
-                            size: 14
-                            weight: Font.DemiBold
-                        }
-                        Label {
-                            width: parent.width
-                            text: root.review.emptyLine
-                            size: 12.5
-                            lineHeight: 17
-                            lineHeightMode: Text.FixedHeight
-                            wrapMode: Text.Wrap
-                            color: Theme.secondary
-                        }
-                    }
-                }
-                Column {
+                ReadFromPicture {
+                    objectName: "notice"
                     width: parent.width
-                    spacing: 8
-                    Accessible.role: Accessible.List
-                    Accessible.name: "Findings"
-                    Repeater {
-                        id: cards
-                        model: root.state.cards
-                        FindingPlace {
-                            id: place
-                            width: sheet.width
-                            state: root.state
-                            onStepped: by => root.step(cards, place.index + by)
-                        }
-                    }
-                }
-                Divider {
-                    visible: root.review.summary.length > 0 && cards.count > 0
-                    below: 7
-                }
-                FoldLine {
-                    width: parent.width
-                    visible: root.review.summary.length > 0
-                    text: root.review.summary
-                    open: root.showExpected
-                    onClicked: root.showExpected = !root.showExpected
+                    visible: root.review.readFromPicture
                 }
                 Item {
-                    id: fold
+                    width: 1
+                    height: 14
+                    visible: root.review.readFromPicture
+                }
+                NothingFound {
                     width: parent.width
-                    height: root.showExpected && settled.count > 0 ? folded.height + 8 : 0
-                    visible: height > 0
-                    opacity: root.showExpected ? 1 : 0
-                    clip: height !== folded.height + 8
-                    Behavior on height {
-                        StandardMove {}
-                    }
-                    Behavior on opacity {
-                        StandardFade {}
-                    }
-                    Column {
-                        id: folded
-                        y: 8
-                        width: parent.width
-                        spacing: 8
-                        Repeater {
-                            id: settled
-                            model: root.state.settled
-                            FindingPlace {
-                                id: compactPlace
-                                width: sheet.width
-                                state: root.state
-                                compact: true
-                                onStepped: by => root.step(settled, compactPlace.index + by)
-                            }
-                        }
-                    }
+                    visible: root.review.empty
+                    line: root.review.emptyLine
+                }
+                CardColumn {
+                    id: cards
+                    width: parent.width
+                    state: root.state
+                    model: root.state.cards
+                    view: view
                 }
                 Divider {
-                    above: root.review.summary.length > 0 ? 7 : 14
+                    width: parent.width
+                    visible: settled.visible && cards.count > 0
+                    below: 7
+                }
+                Settled {
+                    id: settled
+                    width: parent.width
+                    visible: root.review.summary.length > 0
+                    state: root.state
+                    summary: root.review.summary
+                    view: view
+                    open: root.showExpected
+                    onToggled: root.showExpected = !root.showExpected
+                }
+                Divider {
+                    width: parent.width
+                    above: settled.visible ? 7 : 14
                     below: 12
                 }
             }
@@ -260,12 +159,9 @@ FocusScope {
                 id: notes
                 width: parent.width
                 topPadding: 4
+                bottomPadding: 8
                 state: root.state
                 model: root.state.notes
-            }
-            Item {
-                width: parent.width
-                height: 8
             }
             Composer {
                 id: composer
@@ -282,24 +178,9 @@ FocusScope {
                         root.reveal(composer);
                 }
             }
-            Column {
+            OtherPages {
                 width: parent.width
-                visible: others.count > 0
-                Divider {
-                    above: 2
-                    below: 12
-                }
-                SectionTitle {
-                    title: "Still open on other pages"
-                }
-                Repeater {
-                    id: others
-                    model: root.state.others
-                    OtherPageRow {
-                        width: sheet.width
-                        onClicked: Store.turnPage(root.file, row.index)
-                    }
-                }
+                state: root.state
             }
         }
     }

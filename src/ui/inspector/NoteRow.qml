@@ -11,6 +11,8 @@ Item {
     /// What was typed so far, where the note is being edited anew.
     property string draft: ""
     property bool confirmDelete: false
+    property bool menuOpen: false
+    property bool everOpened: false
     readonly property real indent: root.row.number.length > 0 ? 23 : 0
 
     readonly property bool editing: root.row.editing
@@ -41,32 +43,11 @@ Item {
         width: parent.width
         height: 20
 
-        Rectangle {
-            id: badge
+        PinBadge {
             objectName: "badge"
             anchors.verticalCenter: parent.verticalCenter
             visible: root.row.number.length > 0
-            width: 16
-            height: 16
-            radius: 8
-            color: Theme.accent.solid
-            Rectangle {
-                anchors.fill: parent
-                anchors.margins: -1.2
-                radius: 9.2
-                color: "transparent"
-                border.width: 1.2
-                border.pixelAligned: false
-                border.color: Theme.onSolid
-            }
-            Label {
-                anchors.centerIn: parent
-                text: root.row.number
-                size: 8.5
-                weight: Font.Bold
-                color: Theme.onSolid
-                Accessible.name: "Pin " + root.row.number
-            }
+            number: root.row.number
         }
         Label {
             id: author
@@ -87,53 +68,15 @@ Item {
             size: 11
             color: Theme.secondary
         }
-        Pressable {
+        ResolveButton {
             id: resolve
             objectName: "resolve"
             anchors.right: more.left
             anchors.verticalCenter: parent.verticalCenter
-            implicitWidth: 24
-            implicitHeight: 24
-            radius: 7
-            name: root.row.resolved ? "Resolved" : "Resolve"
             help: root.row.resolveHelp
+            resolved: root.row.resolved
             busy: root.row.busy
             onClicked: root.resolveRequested(!root.row.resolved)
-
-            Accessible.checkable: true
-            Accessible.checked: root.row.resolved
-
-            Rectangle {
-                anchors.fill: parent
-                radius: 7
-                visible: resolve.hovered
-                color: resolve.pressed ? Theme.pressed : Theme.hover
-            }
-            Rectangle {
-                objectName: "ring"
-                anchors.centerIn: parent
-                visible: !root.row.resolved && !root.row.busy
-                width: 13
-                height: 13
-                radius: 6.5
-                color: "transparent"
-                border.width: 1.1
-                border.pixelAligned: false
-                border.color: Theme.tertiary
-            }
-            Symbol {
-                anchors.centerIn: parent
-                visible: root.row.resolved && !root.row.busy
-                name: "checkmark.circle.fill"
-                size: 13
-                color: Theme.reviewed.plain
-            }
-            Spinner {
-                anchors.centerIn: parent
-                visible: root.row.busy
-                size: 11
-                color: Theme.secondary
-            }
         }
         IconButton {
             id: more
@@ -146,8 +89,11 @@ Item {
             icon: "ellipsis"
             size: 13
             help: "Edit or delete"
-            open: menu.open
-            onClicked: menu.open = !root.row.busy
+            open: root.menuOpen
+            onClicked: {
+                root.everOpened = true;
+                root.menuOpen = !root.row.busy;
+            }
         }
     }
     Column {
@@ -191,25 +137,32 @@ Item {
             }
         }
     }
-    Menu {
-        id: menu
-        opener: more
-        titles: ["Edit", "Delete"]
-        destructive: 1
-        onDismissed: menu.open = false
-        onChosen: index => {
-            if (index === 0)
-                root.editRequested();
-            else
-                root.confirmDelete = true;
+    // Few rows ever need them.
+    When {
+        active: root.everOpened
+        Menu {
+            opener: more
+            open: root.menuOpen
+            titles: ["Edit", "Delete"]
+            destructive: 1
+            onDismissed: root.menuOpen = false
+            onChosen: index => {
+                if (index === 0)
+                    root.editRequested();
+                else
+                    root.confirmDelete = true;
+            }
         }
     }
-    Confirmation {
-        opener: more
-        open: root.confirmDelete
-        question: "Delete this note?"
-        action: "Delete"
-        onDismissed: root.confirmDelete = false
-        onConfirmed: root.deleteRequested()
+    When {
+        active: root.everOpened
+        Confirmation {
+            opener: more
+            open: root.confirmDelete
+            question: "Delete this note?"
+            action: "Delete"
+            onDismissed: root.confirmDelete = false
+            onConfirmed: root.deleteRequested()
+        }
     }
 }

@@ -65,6 +65,7 @@ Pressable {
         }
         Label {
             id: label
+            objectName: "text"
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
             size: 12

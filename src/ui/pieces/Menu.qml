@@ -23,10 +23,9 @@ Overlay {
     Accessible.role: Accessible.PopupMenu
     Accessible.name: (root.opener as Pressable)?.name ?? ""
 
-    onOpenChanged: {
-        root.current = root.open ? 0 : -1;
-        if (root.open)
-            root.place();
+    onOpened: {
+        root.current = 0;
+        root.place();
     }
     Keys.onDownPressed: root.current = (root.current + 1) % root.titles.length
     Keys.onUpPressed: root.current = (Math.max(root.current, 0) + root.titles.length - 1) % root.titles.length

@@ -12,6 +12,8 @@ FocusScope {
     property bool open: false
     default property alias content: content.data
 
+    /// It has opened and has the keyboard.
+    signal opened
     signal dismissed
 
     property Item before: null
@@ -28,13 +30,15 @@ FocusScope {
 
     Keys.onEscapePressed: root.dismissed()
     onOpenChanged: root.settle()
-    Component.onCompleted: root.settle()
+    onParentChanged: root.settle()
 
+    // While it is being made there is no window to lie over yet.
     function settle() {
-        if (root.open && !root.enabled) {
+        if (root.open && !root.enabled && root.parent) {
             root.before = root.opener.Window.activeFocusItem;
             root.enabled = true;
             root.forceActiveFocus();
+            root.opened();
         } else if (!root.open && root.enabled) {
             if (root.activeFocus && root.before)
                 root.before.forceActiveFocus();

@@ -70,6 +70,8 @@ private Q_SLOTS:
     void hiddenTextOfTheSameRoleIsNoExtra();
     void aSeverityIsATagAndATone_data();
     void aSeverityIsATagAndATone();
+    void aCardThatStepsBackCanBeRead_data();
+    void aCardThatStepsBackCanBeRead();
     void aSecondPressReopens();
     void aCardSaysWhoJudgedAndWhen();
     void aCardWithoutAJudgeSaysNothingOfOne();
@@ -260,6 +262,27 @@ void FindingsTest::aSeverityIsATagAndATone()
     const QString severity = QString::fromLatin1(QTest::currentDataTag());
     QTEST(severityTag(severity), "tag");
     QTEST(int(severityTone(severity)), "tone");
+}
+
+void FindingsTest::aCardThatStepsBackCanBeRead_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+void FindingsTest::aCardThatStepsBackCanBeRead()
+{
+    QFETCH(bool, dark);
+    const auto steppedBack = [dark](QColor colour) {
+        colour.setAlphaF(0.72F);
+        return laidOver(colour, vexal::colour(Role::Backdrop, dark));
+    };
+    const QColor ground = steppedBack(vexal::colour(Role::Card, dark));
+    for (const QColor &ink : {vexal::colour(Role::Text, dark), tint(Tone::Neutral, dark).plain}) {
+        const qreal reads = contrast(steppedBack(ink), ground);
+        QVERIFY2(reads >= 4.5, qPrintable(QString::number(reads)));
+    }
 }
 
 void FindingsTest::aSecondPressReopens()

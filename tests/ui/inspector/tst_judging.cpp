@@ -48,6 +48,7 @@ private Q_SLOTS:
     void theSettledFindingsUnfoldAndFoldAgain();
     void anotherFileBeginsFolded();
     void aNewBoardRebuildsNoCard();
+    void ofManyCardsOnlyThoseNearTheColumnAreBuilt();
     void arrowsGoFromCardToCard();
     void anotherPageIsTurnedTo();
     void theNoticeStandsOverAPageThatWasRead();
@@ -72,6 +73,7 @@ private:
                 });
         }
     }
+    void labelsAreTextInTheColumn() const;
     QString state(int at = 0) const { return m_on->live.store.detail(u"f"_s)->findings[at].state; }
     QQuickItem *button(const QString &name) const { return InspectorScreen::named(m_on->card(u"Title of a"_s), name); }
 
@@ -189,7 +191,7 @@ void JudgingTest::theFocusedCardIsBroughtIntoView()
     show(detailOf(findings), {330, 500});
     const auto inSight = [this](const QString &title) {
         QQuickItem *card = m_on->card(title);
-        const QRectF place = card->mapRectToScene(card->boundingRect());
+        const QRectF place = card ? card->mapRectToScene(card->boundingRect()) : QRectF(0, 1e6, 1, 1);
         return place.top() >= 0 && place.bottom() <= 500;
     };
     QVERIFY(!inSight(u"Title of f15"_s));
@@ -249,6 +251,30 @@ void JudgingTest::aNewBoardRebuildsNoCard()
     QCOMPARE(m_on->card(u"Title of a"_s), first.data());
     QCOMPARE(m_on->card(u"Another title"_s), last.data());
     QTRY_VERIFY(last->mapToScene({}).y() < first->mapToScene({}).y());
+}
+
+void JudgingTest::ofManyCardsOnlyThoseNearTheColumnAreBuilt()
+{
+    QList<Finding> findings;
+    for (int i = 0; i < 300; ++i)
+        findings.append(found(u"f%1"_s.arg(i), u"words"_s));
+    show(detailOf(findings), {330, 600});
+    const auto built = [this] { return m_on->screen->all("FindingCard").size(); };
+    QTRY_VERIFY(built() > 8 && built() < 30);
+    m_on->live.store.focusFinding(u"f150"_s);
+    QTRY_VERIFY(m_on->card(u"Title of f150"_s));
+    QTRY_VERIFY(!m_on->card(u"Title of f0"_s));
+    QVERIFY(built() < 40);
+    // By keyboard from there, further than was built at first.
+    m_on->card(u"Title of f150"_s)->forceActiveFocus(Qt::TabFocusReason);
+    for (int i = 0; i < 20; ++i)
+        m_on->screen->press(Qt::Key_Down);
+    QCOMPARE(m_on->focus(), m_on->card(u"Title of f170"_s));
+    QTRY_VERIFY(built() < 40);
+    // What has the keyboard stays, however far it is scrolled away.
+    m_on->named(u"column"_s)->setProperty("contentY", 0);
+    QTRY_VERIFY(m_on->card(u"Title of f0"_s));
+    QCOMPARE(m_on->focus(), m_on->card(u"Title of f170"_s));
 }
 
 void JudgingTest::arrowsGoFromCardToCard()
@@ -342,13 +368,7 @@ void JudgingTest::textsFromOutsideStayTextAndStayInTheColumn()
     note.by = nasty.repeated(20);
     detail.comments = {note};
     show(detail);
-    m_on->live.store.answerFinding(u"a"_s);
-    QVERIFY(m_on->context().startsWith(u"Note on: <b>bold</b><img"_s));
-    for (const QQuickItem *label : m_on->screen->all("Label")) {
-        QCOMPARE(label->property("textFormat").toInt(), int(Qt::PlainText));
-        const QRectF place = label->mapRectToScene(label->boundingRect());
-        QVERIFY2(place.left() >= 15 && place.right() <= 315.5, qPrintable(label->property("text").toString().left(40)));
-    }
+    labelsAreTextInTheColumn();
     QQuickItem *card = m_on->screen->only("FindingCard");
     QVERIFY2(card->height() < 1500, qPrintable(QString::number(card->height())));
     for (const auto *name : {"ours", "theirs"}) {
@@ -360,6 +380,18 @@ void JudgingTest::textsFromOutsideStayTextAndStayInTheColumn()
     QCOMPARE(body->property("textFormat").toInt(), int(Qt::PlainText));
     QCOMPARE(body->property("text").toString(), note.text);
     QVERIFY(body->property("contentWidth").toReal() <= body->width());
+    m_on->live.store.answerFinding(u"a"_s);
+    QVERIFY(m_on->context().startsWith(u"Note on: <b>bold</b><img"_s));
+    labelsAreTextInTheColumn();
+}
+
+void JudgingTest::labelsAreTextInTheColumn() const
+{
+    for (const QQuickItem *label : m_on->screen->all("Label")) {
+        QCOMPARE(label->property("textFormat").toInt(), int(Qt::PlainText));
+        const QRectF place = label->mapRectToScene(label->boundingRect());
+        QVERIFY2(place.left() >= 15 && place.right() <= 315.5, qPrintable(label->property("text").toString().left(40)));
+    }
 }
 
 void JudgingTest::theKeyboardReachesEverythingAndIsSeen()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void aNoteIsPostedAndItsTextGoes();
     void aNoteOnItsWayIsNotPostedAgain();
     void aRefusedNoteKeepsItsTextAndItsPlace();
+    void aDraftThatComesBackTakesNoFocus();
     void blanksAreNotPosted();
     void controlReturnPosts();
     void returnAloneIsALine();
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void thePlaceholderAsksForTheClick();
     void theFieldGrowsToEightLinesAndScrolls();
     void tabLeavesTheField();
+    void theTextOfANoteIsSelectedByTheMouse();
     void aNoteIsResolvedAndReopened();
     void aNoteIsEdited();
     void aRefusedEditStaysOpenWithWhatWasTyped();
@@ -175,6 +177,20 @@ void WritingTest::aRefusedNoteKeepsItsTextAndItsPlace()
     QCOMPARE(written(), u"Here"_s);
     QCOMPARE(m_on->context(), u"Note pinned on page 1"_s);
     QVERIFY(m_on->named(u"post"_s)->isEnabled());
+}
+
+void WritingTest::aDraftThatComesBackTakesNoFocus()
+{
+    show();
+    m_on->live.client.server.on("POST", "/api/comments").answer(500);
+    m_on->live.store.answerFinding(u"a"_s);
+    write(u"Here"_s);
+    QQuickItem *card = m_on->card(u"Title of a"_s);
+    card->forceActiveFocus();
+    m_on->screen->click(m_on->named(u"post"_s));
+    m_on->waitForEnd();
+    QCOMPARE(m_on->context(), u"Note on: Title of a"_s);
+    QCOMPARE(m_on->focus(), card);
 }
 
 void WritingTest::blanksAreNotPosted()
@@ -331,6 +347,20 @@ void WritingTest::tabLeavesTheField()
     m_on->screen->press(Qt::Key_Backtab, Qt::ShiftModifier);
     QCOMPARE(m_on->focus(), m_on->field());
     QCOMPARE(written(), u"x"_s);
+}
+
+void WritingTest::theTextOfANoteIsSelectedByTheMouse()
+{
+    show({aNote(u"n"_s, u"A line of a note\n"_s.repeated(60))});
+    QQuickItem *text = ofRow(u"text"_s);
+    QQuickWindow *window = &m_on->screen->window();
+    const QPoint from = text->mapToScene({2, 4}).toPoint();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+    for (int down = 1; down <= 60; ++down)
+        QTest::mouseMove(window, from + QPoint(0, down));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, from + QPoint(0, 60));
+    QVERIFY(text->property("selectedText").toString().size() > 30);
+    QCOMPARE(m_on->named(u"column"_s)->property("contentY").toReal(), 0.0);
 }
 
 void WritingTest::aNoteIsResolvedAndReopened()
