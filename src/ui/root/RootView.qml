@@ -40,5 +40,6 @@ FocusScope {
         anchors.bottomMargin: 22
         state: board
     }
+    ActionKeys {}
     HintLayer {}
 }
