@@ -43,5 +43,6 @@ FocusScope {
         anchors.bottomMargin: 22
         state: board
     }
+    ActionKeys {}
     HintLayer {}
 }
