@@ -55,12 +55,10 @@ QSize Pixels::levelFor(const Source &source, QSize shown)
 
 QSize Pixels::steppedLevelFor(const Source &source, QSize shown)
 {
+    const QSize least = shown.expandedTo({1, 1});
     QSize level = source.size();
-    for (QSize half = level / 2; half.width() >= shown.width() && half.height() >= shown.height(); half = level / 2) {
-        if (half.isEmpty())
-            break;
-        level = half;
-    }
+    while (level.width() / 2 >= least.width() && level.height() / 2 >= least.height())
+        level = {level.width() / 2, level.height() / 2};
     return level;
 }
 

@@ -55,14 +55,25 @@ Item {
                 color: root.tone
                 opacity: 0.1
             }
+            // The lines lie on whole pixels, so that all four sides look the same.
+            Item {
+                id: lines
+                function onPixelGrid(points: real): real {
+                    return Math.round(points * Screen.devicePixelRatio) / Screen.devicePixelRatio;
+                }
+                x: lines.onPixelGrid(box.x) - box.x
+                y: lines.onPixelGrid(box.y) - box.y
+                width: lines.onPixelGrid(box.width)
+                height: lines.onPixelGrid(box.height)
+            }
             StrokedBox {
-                anchors.fill: parent
+                anchors.fill: lines
                 line: root.mark.selected ? 5 : 4
                 color: "white"
                 opacity: 0.9
             }
             StrokedBox {
-                anchors.fill: parent
+                anchors.fill: lines
                 line: root.mark.selected || root.hovers > 0 ? 2.4 : 1.6
                 color: root.tone
             }
