@@ -75,12 +75,20 @@ function(vexal_screens name)
   endforeach()
 endfunction()
 
+# Every place of the window.
+set(VEXAL_WINDOW vexal_ui_root vexal_ui_file vexal_ui_inspector vexal_ui_canvas vexal_ui_sidebar vexal_ui_pieces)
+
 # vexal_shows(program screens...): links places of the window into a program, their QML types included: a static module
 # registers itself through its plugin, which nothing else names.
 function(vexal_shows program)
   foreach(screens IN LISTS ARGN)
     target_link_libraries(${program} PRIVATE ${screens} ${screens}plugin)
   endforeach()
+  # Windows of two tests would take the keyboard from each other: one test at a time shows some.
+  string(REGEX MATCH "^test_(.+)$" is_test ${program})
+  if(is_test)
+    set_tests_properties(${CMAKE_MATCH_1} PROPERTIES RESOURCE_LOCK keyboard)
+  endif()
 endfunction()
 
 # vexal_test(name SOURCES ... USES ...): a test program that ctest runs.

@@ -38,8 +38,9 @@ int photograph(QGuiApplication &application, const LaunchOptions &options)
         return 1;
     }
     applyTypeface(application, Typeface::Ours);
+    // Nothing of the person's own gets into the picture: no folder of cached pictures.
     VexalApp app({standingClock(read.sample ? latestMoment(*read.sample) : QDateTime::fromMSecsSinceEpoch(0)),
-                  picturesFolder(), fetchNothing});
+                  QString(), fetchNothing});
     app.pose(options);
     if (read.sample) {
         app.showSample(*read.sample, *options.sample);

@@ -1,5 +1,6 @@
 #include "samplefolder.h"
 
+#include "clock.h"
 #include "decode.h"
 #include "launchoptions.h"
 #include "store.h"
@@ -73,6 +74,8 @@ void focusFirstHigh(Store &store, const FileDetail &detail)
 
 SampleRead readSample(const QString &folder)
 {
+    if (folder.isEmpty())
+        return {};
     QFile file(QDir(folder).filePath(u"sample.json"_s));
     if (!file.open(QIODevice::ReadOnly))
         return {};
@@ -86,7 +89,7 @@ QDateTime latestMoment(const Sample &sample)
 {
     LatestMoment latest;
     latest.look("", sample);
-    return QDateTime::fromMSecsSinceEpoch(qint64(latest.found), Qt::UTC);
+    return momentOf(latest.found);
 }
 
 void stage(Store &store, const LaunchOptions &options)
@@ -94,7 +97,7 @@ void stage(Store &store, const LaunchOptions &options)
     const QList<FileItem> &files = store.board()->files;
     if (!files.isEmpty())
         store.selectFile(files[0].id);
-    if (options.multi && files.size() > 1)
+    if (options.multi && files.size() > 1 && files[1].id != files[0].id)
         store.selectFile(files[1].id, true);
     const FileItem *current = store.current();
     if (const FileDetail *detail = current ? store.detail(current->id) : nullptr; detail && options.focus)

@@ -11,19 +11,23 @@ namespace vexal {
 namespace {
 
 constexpr qsizetype longestName = 255; ///< Bytes, on every file system that desktops use.
-constexpr qint64 tailSize = 64;
+constexpr qsizetype tailSize = 64;
 
 // Whether a file ends as its format ends: a copy that broke off does not. Formats without a mark at their end pass.
-bool isWhole(QFile &file)
+bool isWhole(const QByteArray &head, const QByteArray &tail)
 {
-    const QByteArray head = file.read(4);
-    file.seek(std::max<qint64>(0, file.size() - tailSize));
-    const QByteArray tail = file.readAll();
     if (head.startsWith("\xff\xd8"))
         return tail.contains("\xff\xd9");
     if (head.startsWith("\x89PNG"))
         return tail.contains("IEND");
     return true;
+}
+
+bool isWhole(QFile &file)
+{
+    const QByteArray head = file.read(4);
+    file.seek(std::max<qint64>(0, file.size() - tailSize));
+    return isWhole(head, file.readAll());
 }
 
 } // namespace
@@ -69,7 +73,8 @@ std::optional<Picture> DiskCache::read(const QString &key)
 std::optional<Picture> DiskCache::write(const QString &key, const QByteArray &bytes)
 {
     const QString path = pathOf(key);
-    if (path.isEmpty())
+    if (path.isEmpty() ||
+        !isWhole(bytes.first(std::min<qsizetype>(4, bytes.size())), bytes.last(std::min(tailSize, bytes.size()))))
         return std::nullopt;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())

@@ -91,7 +91,7 @@ void Images::remember(const QString &key, const Picture &picture)
 
 void Images::addSamples(const QString &folder)
 {
-    QDirIterator files(folder, {u"*.jpg"_s, u"*.png"_s}, QDir::Files | QDir::CaseSensitive);
+    QDirIterator files(folder, {u"*.jpg"_s, u"*.png"_s}, QDir::Files | QDir::Hidden | QDir::CaseSensitive);
     while (files.hasNext()) {
         const QString path = files.next();
         if (const auto picture = Picture::fromFile(path))
@@ -101,9 +101,12 @@ void Images::addSamples(const QString &folder)
 
 bool Images::spoiled(const QString &key)
 {
+    // A sample's picture is as it is; what the disk holds under its key is somebody else's.
+    if (m_samples.contains(key))
+        return false;
     m_memory.remove(key);
     m_disk.remove(key);
-    const bool again = !m_spoiled.contains(key) && !m_samples.contains(key);
+    const bool again = !m_spoiled.contains(key);
     m_spoiled.insert(key);
     return again;
 }

@@ -44,6 +44,11 @@ QString pageLabel(const Page &page)
     return page.i < 0 ? QString::number(page.i + 1) : QString::number(quint64(page.i) + 1);
 }
 
+bool isResolved(const Note &note)
+{
+    return note.resolved.value_or(0) != 0;
+}
+
 QString firstName(const Person &person)
 {
     const QStringList words = person.name.split(u' ', Qt::SkipEmptyParts);

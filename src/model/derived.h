@@ -21,6 +21,9 @@ double aspect(const Page &page);
 /// The page's own label, else its number as people count, from 1.
 QString pageLabel(const Page &page);
 
+/// The note is done with.
+bool isResolved(const Note &note);
+
 /// The first word of a person's name; words are delimited by blanks alone.
 QString firstName(const Person &person);
 

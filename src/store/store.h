@@ -34,7 +34,7 @@ class Store : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool signedIn READ signedIn NOTIFY signedInChanged)
-    Q_PROPERTY(QStringList selection READ selectionSorted NOTIFY selectionChanged)
+    Q_PROPERTY(QList<QString> selection READ selectionSorted NOTIFY selectionChanged)
     Q_PROPERTY(QString focus READ focusText NOTIFY focusChanged)
     Q_PROPERTY(QString against READ against NOTIFY againstChanged)
     Q_PROPERTY(CompareMode mode READ mode NOTIFY modeChanged)
@@ -45,7 +45,7 @@ class Store : public QObject
     Q_PROPERTY(bool hasDraftPin READ hasDraftPin NOTIFY draftPinChanged)
     Q_PROPERTY(QPointF draftPin READ draftPinPoint NOTIFY draftPinChanged)
     Q_PROPERTY(QString draftFinding READ draftFindingText NOTIFY draftFindingChanged)
-    Q_PROPERTY(QStringList busy READ busySorted NOTIFY busyChanged)
+    Q_PROPERTY(QList<QString> busy READ busySorted NOTIFY busyChanged)
     Q_PROPERTY(bool refreshing READ refreshing NOTIFY refreshingChanged)
     Q_PROPERTY(bool showActivity READ showActivity NOTIFY showActivityChanged)
     Q_PROPERTY(bool signingIn READ signingIn NOTIFY signingInChanged)

@@ -52,6 +52,9 @@ private Q_SLOTS:
     void theFirstFileIsSelected();
     void multiSelectsTheFirstTwo();
     void multiOnABoardOfOneSelectsThatOne();
+    void multiOnTwoFilesOfOneIdSelectsThatOne();
+    void aNameOfNoFolderReadsNothing();
+    void aMomentBeyondAllTimeIsTheLast();
     void focusPicksTheFirstFindingOfHighSeverity();
     void focusWithoutAHighFindingPicksNone();
     void activityOpensTheList();
@@ -131,6 +134,26 @@ void SampleFolderTest::multiSelectsTheFirstTwo()
 {
     const auto store = staged(sampleOf(3), {.multi = true});
     QCOMPARE(store->selection(), QSet<QString>({u"a"_s, u"b"_s}));
+}
+
+void SampleFolderTest::multiOnTwoFilesOfOneIdSelectsThatOne()
+{
+    Sample sample = sampleOf(2);
+    sample.board.files[1].id = sample.board.files[0].id;
+    QCOMPARE(staged(sample, {.multi = true})->selection(), QSet<QString>{sample.board.files[0].id});
+}
+
+void SampleFolderTest::aNameOfNoFolderReadsNothing()
+{
+    const SampleRead read = readSample(QString());
+    QVERIFY(!read.sample && !read.undecodable);
+}
+
+void SampleFolderTest::aMomentBeyondAllTimeIsTheLast()
+{
+    Sample sample;
+    sample.board.sync = Job{.finished = 1e300};
+    QCOMPARE(latestMoment(sample).date().year(), 9999);
 }
 
 void SampleFolderTest::multiOnABoardOfOneSelectsThatOne()

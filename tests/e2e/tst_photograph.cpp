@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
@@ -35,6 +36,9 @@ private Q_SLOTS:
     void aSampleThatDoesNotDecodeSaysSo();
     void aPathThatCannotBeWrittenIsSaidAndForgiven();
     void anUnreadablePictureIsSimplyMissing();
+    void nothingOfThePersonsOwnGetsIntoThePicture();
+    void itIsTakenBesideAnotherOneThatRuns();
+    void anEmptyFolderNameIsNoFolder();
 
 private:
     Run photograph(const QString &name, const QStringList &flags, const QStringList &environment = {}) const;
@@ -123,9 +127,12 @@ void PhotographTest::darkIsDarker()
 void PhotographTest::eachStateLooksDifferent()
 {
     const QImage plain = picture(u"plain.png"_s, {u"--sample"_s, m_sample});
+    QVERIFY(!plain.isNull());
     for (const char *flag : {"--multi", "--focus", "--activity", "--pin"}) {
         const QString name = QLatin1StringView(flag);
-        QVERIFY2(picture(name + u".png"_s, {u"--sample"_s, m_sample, name}) != plain, flag);
+        const QImage posed = picture(name + u".png"_s, {u"--sample"_s, m_sample, name});
+        QCOMPARE(posed.size(), plain.size());
+        QVERIFY2(posed != plain, flag);
     }
 }
 
@@ -165,13 +172,49 @@ void PhotographTest::aPathThatCannotBeWrittenIsSaidAndForgiven()
 void PhotographTest::anUnreadablePictureIsSimplyMissing()
 {
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_sample + u"/sample.json"_s, folder.filePath(u"sample.json"_s)));
-    QFile broken(folder.filePath(u"broken.png"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("no picture");
-    broken.close();
-    QCOMPARE(photograph(u"pictureless.png"_s, {u"--sample"_s, folder.path()}).status, 0);
-    QVERIFY(QImage(path(u"pictureless.png"_s)) != picture(u"board.png"_s, {u"--sample"_s, m_sample}));
+    for (const QString &name : QDir(m_sample).entryList(QDir::Files)) {
+        QFile file(folder.filePath(name));
+        if (!name.startsWith(u"fox_"))
+            QVERIFY(QFile::link(m_sample + u'/' + name, file.fileName()));
+        else
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
+    }
+    const QImage without = picture(u"pictureless.png"_s, {u"--sample"_s, folder.path()});
+    const QImage with = picture(u"board.png"_s, {u"--sample"_s, m_sample});
+    const QRect page(450, 250, 300, 300); // The fox's.
+    QVERIFY(without.copy(page) != with.copy(page));
+    const QRect firstRows(0, 240, 288, 150); // Not the fox's.
+    QCOMPARE(without.copy(firstRows), with.copy(firstRows));
+}
+
+void PhotographTest::nothingOfThePersonsOwnGetsIntoThePicture()
+{
+    const QTemporaryDir sample;
+    const QTemporaryDir caches;
+    QVERIFY(QFile::link(m_sample + u"/sample.json"_s, sample.filePath(u"sample.json"_s)));
+    QVERIFY(QDir(caches.path()).mkpath(u"Vexal/img"_s));
+    for (const QString &name : QDir(m_sample).entryList({u"fox_*"_s}, QDir::Files))
+        QVERIFY(QFile::link(m_sample + u'/' + name, caches.filePath(u"Vexal/img/"_s + name)));
+    const QStringList flags{u"--sample"_s, sample.path()};
+    QCOMPARE(picture(u"cached.png"_s, flags, {u"XDG_CACHE_HOME="_s + caches.path()}),
+             picture(u"uncached.png"_s, flags, {u"XDG_CACHE_HOME="_s + sample.path()}));
+}
+
+void PhotographTest::itIsTakenBesideAnotherOneThatRuns()
+{
+    QProcess running;
+    running.start(QStringLiteral(VEXAL_BINARY), {u"-ServerURL"_s, u"http://127.0.0.1:9"_s});
+    QVERIFY(running.waitForStarted());
+    const QImage beside = picture(u"beside.png"_s, {u"--signin"_s});
+    QCOMPARE(running.state(), QProcess::Running);
+    running.terminate();
+    QVERIFY(running.waitForFinished());
+    QCOMPARE(beside, picture(u"alone.png"_s, {u"--signin"_s}));
+}
+
+void PhotographTest::anEmptyFolderNameIsNoFolder()
+{
+    QCOMPARE(picture(u"nameless.png"_s, {u"--sample"_s, QString()}), picture(u"signin.png"_s, {u"--signin"_s}));
 }
 
 QTEST_GUILESS_MAIN(PhotographTest)

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace vexal;
 using test::pictureBytes;
@@ -91,6 +93,10 @@ private Q_SLOTS:
     void aFileCutShortIsFetchedAgain();
     void aFolderThatCannotBeWrittenStillShows();
     void nothingHalfWrittenStays();
+    void aFileIsReplacedAndNeverWrittenOver();
+    void aBodyThatBreaksOffIsNotKeptOnDisk();
+    void aSpoiledSampleLeavesTheDiskAlone();
+    void aHiddenSampleIsOneToo();
     void aSpoiledPictureIsAskedAgainOnce();
     void aPictureOfAbsurdSizeIsNone();
     void aBodyOfAbsurdLengthIsNone();
@@ -375,6 +381,55 @@ void ImagesTest::nothingHalfWrittenStays()
     QVERIFY(ask(*cache, u"a/b/c.png"_s));
     QVERIFY(ask(*cache, u"d.jpg"_s));
     QCOMPARE(QDir(path({})).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void ImagesTest::aFileIsReplacedAndNeverWrittenOver()
+{
+    {
+        const auto cache = images();
+        QVERIFY(ask(*cache, u"d.jpg"_s));
+    }
+    // A second name of the same file keeps what it was.
+    const QByteArray file = QFile::encodeName(path(u"d.jpg"_s));
+    const QByteArray other = QFile::encodeName(m_folder->filePath(u"other"_s));
+    QVERIFY(::truncate(file.constData(), 30) == 0 && ::link(file.constData(), other.constData()) == 0);
+    const auto cache = images();
+    QVERIFY(ask(*cache, u"d.jpg"_s));
+    QVERIFY(QFileInfo(path(u"d.jpg"_s)).size() > 30);
+    QCOMPARE(QFileInfo(m_folder->filePath(u"other"_s)).size(), 30);
+}
+
+void ImagesTest::aBodyThatBreaksOffIsNotKeptOnDisk()
+{
+    QByteArray &body = m_server.blobs[u"d.jpg"_s];
+    body.chop(8);
+    const auto cache = images();
+    ask(*cache, u"d.jpg"_s);
+    QVERIFY(!QFile::exists(path(u"d.jpg"_s)));
+}
+
+void ImagesTest::aSpoiledSampleLeavesTheDiskAlone()
+{
+    const QTemporaryDir folder;
+    QFile sample(folder.filePath(u"d.jpg"_s));
+    QVERIFY(sample.open(QIODevice::WriteOnly) && sample.write(pictureBytes({5, 5})) > 0);
+    sample.close();
+    const auto cache = images();
+    QVERIFY(ask(*cache, u"d.jpg"_s));
+    cache->addSamples(folder.path());
+    QVERIFY(!cache->spoiled(u"d.jpg"_s));
+    QVERIFY(QFile::exists(path(u"d.jpg"_s)));
+}
+
+void ImagesTest::aHiddenSampleIsOneToo()
+{
+    const QTemporaryDir folder;
+    QFile sample(folder.filePath(u".a_b.png"_s));
+    QVERIFY(sample.open(QIODevice::WriteOnly) && sample.write(pictureBytes({5, 5})) > 0);
+    sample.close();
+    const auto cache = images();
+    cache->addSamples(folder.path());
+    QVERIFY(cache->cached(u".a/b.png"_s));
 }
 
 void ImagesTest::aSpoiledPictureIsAskedAgainOnce()

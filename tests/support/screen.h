@@ -10,6 +10,7 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
+#include <QtQuickTest>
 
 #include <memory>
 
@@ -47,7 +48,7 @@ public:
     QList<QQuickItem *> all(const QByteArray &type) const
     {
         QList<QQuickItem *> found;
-        collect(m_window.rootObject(), type, found);
+        collect(m_window.contentItem(), type, found); // overlays lie beside the root
         return found;
     }
 
@@ -69,8 +70,11 @@ public:
         return texts;
     }
 
+    /// Clicks the middle of the item, where it is once everything has been laid out.
     void click(const QQuickItem *item, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        if (!QQuickTest::qWaitForPolish(&m_window))
+            qFatal("the window never came to rest");
         const QPoint middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
         QTest::mouseClick(&m_window, Qt::LeftButton, modifiers, middle);
     }

@@ -3,19 +3,20 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.File
 
-/// Names a file, its state and its facts.
+/// Names a file, its state and its facts, and leads to what belongs to it.
 Item {
     id: root
 
-    required property fileHeader header
+    required property FileState state
+    readonly property fileHeader header: root.state.header
 
-    implicitHeight: 12 + 34 + 2 + facts.implicitHeight + 14
+    implicitHeight: 12 + 34 + 2 + facts.implicitHeight + 9 + links.height + 12
 
     Label {
         id: title
         x: 22
         y: 12
-        width: Math.min(implicitWidth, root.width - 44 - chip.width - 10)
+        width: Math.min(implicitWidth, actions.x - 22 - chip.width - 10 - 14)
         height: 34
         verticalAlignment: Text.AlignVCenter
         text: root.header.title
@@ -31,6 +32,13 @@ Item {
         anchors.verticalCenter: title.verticalCenter
         status: root.header.status
     }
+    ReviewActions {
+        id: actions
+        anchors.right: parent.right
+        anchors.rightMargin: 22
+        anchors.verticalCenter: title.verticalCenter
+        state: root.state
+    }
     Label {
         id: facts
         x: 22
@@ -40,5 +48,25 @@ Item {
         text: root.header.facts
         size: 13
         color: Theme.secondary
+    }
+    Flow {
+        id: links
+        x: 22
+        anchors.top: facts.bottom
+        anchors.topMargin: 9
+        width: root.width - 44
+        spacing: 7
+
+        Repeater {
+            model: root.header.links
+
+            LinkPill {
+                required property fileLink modelData
+                title: modelData.title
+                icon: modelData.symbol
+                url: modelData.url
+                onOpened: link => root.state.follow(link)
+            }
+        }
     }
 }

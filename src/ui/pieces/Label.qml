@@ -2,7 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vexal.Pieces
 
-/// A line of text as it stands: what comes from outside is never markup.
+/// A text as it stands: what comes from outside is never markup. It is one line unless it may wrap, and begins at the
+/// left whatever it is written in.
 Text {
     id: root
 
@@ -18,6 +19,8 @@ Text {
     textFormat: Text.PlainText
     renderType: Text.NativeRendering
     elide: Text.ElideRight
+    maximumLineCount: root.wrapMode === Text.NoWrap ? 1 : 2147483647
+    horizontalAlignment: Text.AlignLeft
 
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text

@@ -74,14 +74,20 @@ QtObject {
     readonly property real chosenWash: 0.55
     readonly property real chosenOutline: 0.45
     readonly property real focusRing: 0.7
+    readonly property real currentWash: 0.13
     readonly property real updateWash: 0.09
     readonly property real offlineWash: 0.13
+    readonly property real fieldFocus: 0.6
+    /// The ground of what differs in two texts: on our side in the colour of text, on theirs in the accent.
+    readonly property real oursWash: 0.09
+    readonly property real theirsWash: 0.24
 
     // How strongly a whole piece is drawn.
     readonly property real disabled: 0.45
     readonly property real withoutLink: 0.7
     readonly property real atTheEnd: 0.35
     readonly property real judgedFine: 0.72
+    readonly property real onItsWay: 0.7
     readonly property real underPointer: 0.9
 
     /// How small a pressed piece gets, and how much darker a solid one.

@@ -25,6 +25,7 @@ FocusScope {
     FileState {
         id: file
         store: Store
+        time: PassingTime
     }
     UpdateBanner {
         id: update

@@ -53,6 +53,7 @@ Item {
     }
 
     Column {
+        id: middle
         anchors.centerIn: parent
 
         Item {
@@ -110,35 +111,37 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "hint"
             horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
             text: qsTr("Google opens on its own page.\nSign in there with your @%1 account.").arg(root.emailDomain)
             size: 12
             lineHeight: 17
             lineHeightMode: Text.FixedHeight
             color: Theme.secondary
         }
-        Gap { height: 14 }
-        // Its room is kept, so that nothing moves when it comes.
-        Row {
-            anchors.horizontalCenter: parent.horizontalCenter
-            spacing: 18
-            opacity: root.working ? 1 : 0
-            enabled: root.working
-            Behavior on opacity {
-                StandardFade {}
-            }
-            TextButton {
-                objectName: "cancel"
-                title: qsTr("Cancel")
-                size: 12
-                onClicked: root.cancelRequested()
-            }
-            TextButton {
-                objectName: "link"
-                visible: root.canCopyLink
-                title: qsTr("Copy link")
-                size: 12
-                onClicked: root.linkRequested()
-            }
+    }
+    // Below what is centred, so that nothing moves when it comes.
+    Row {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: middle.bottom
+        anchors.topMargin: 14
+        spacing: 18
+        opacity: root.working ? 1 : 0
+        enabled: root.working
+        Behavior on opacity {
+            StandardFade {}
+        }
+        TextButton {
+            objectName: "cancel"
+            title: qsTr("Cancel")
+            size: 12
+            onClicked: root.cancelRequested()
+        }
+        TextButton {
+            objectName: "link"
+            visible: root.canCopyLink
+            title: qsTr("Copy link")
+            size: 12
+            onClicked: root.linkRequested()
         }
     }
     Label {

@@ -1,9 +1,9 @@
 #include "rootstate.h"
 
 #include "deployment.h"
+#include "links.h"
 
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
@@ -102,9 +102,8 @@ QString RootState::updateNotes() const
 
 void RootState::download() const
 {
-    const QUrl page = m_store->update() ? QUrl(m_store->update()->url, QUrl::StrictMode) : QUrl();
-    if (page.isValid() && (page.scheme() == "https"_L1 || page.scheme() == "http"_L1))
-        QDesktopServices::openUrl(page);
+    if (m_store->update())
+        openLink(m_store->update()->url);
 }
 
 void RootState::dismissUpdate()

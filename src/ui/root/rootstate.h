@@ -53,7 +53,7 @@ public:
     /// What the banner of a newer version says; empty without one.
     QString updateTitle() const;
     QString updateNotes() const;
-    /// Opens the page that has the newer version. One that is no page of the web is not opened.
+    /// Opens the page that has the newer version; does nothing when its address is none.
     Q_INVOKABLE void download() const;
     /// Takes the offer away.
     Q_INVOKABLE void dismissUpdate();

@@ -29,6 +29,20 @@ FocusScope {
         Keys.onReturnPressed: pick()
         Keys.onSpacePressed: pick()
 
+        // A row that is selected comes into view; whoever scrolls away from it stays there, whatever the board brings.
+        function showChosen() {
+            const row = root.state.chosenRow();
+            if (row >= 0)
+                positionViewAtIndex(row, ListView.Contain);
+        }
+        Component.onCompleted: Qt.callLater(showChosen)
+        Connections {
+            target: root.state
+            function onChosen() {
+                Qt.callLater(list.showChosen);
+            }
+        }
+
         function pick() {
             const place = currentItem as FilePlace;
             if (place)

@@ -57,7 +57,7 @@ Item {
         anchors.leftMargin: 10
         anchors.right: count.left
         anchors.rightMargin: 10
-        y: 8
+        y: root.row.details.length > 0 ? 8 : (root.height - height) / 2
         height: 17
         spoken: false
         text: root.row.title

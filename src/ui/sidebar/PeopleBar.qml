@@ -42,10 +42,19 @@ Item {
     }
     ActivityButton {
         id: activity
-        anchors.right: parent.right
-        anchors.rightMargin: 9
+        anchors.right: account.left
+        anchors.rightMargin: 2
         anchors.verticalCenter: parent.verticalCenter
         open: Store.showActivity
         onClicked: Store.toggleActivity()
+    }
+    AccountMenu {
+        id: account
+        anchors.right: parent.right
+        anchors.rightMargin: 9
+        anchors.verticalCenter: parent.verticalCenter
+        busy: Store.busy.includes("photo")
+        onPhotoRequested: Store.changePhoto()
+        onSignOutRequested: Store.signOut()
     }
 }

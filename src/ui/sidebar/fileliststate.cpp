@@ -1,5 +1,7 @@
 #include "fileliststate.h"
 
+#include <algorithm>
+
 namespace vexal {
 
 FileListState::FileListState(QObject *parent)
@@ -18,11 +20,22 @@ void FileListState::setStore(Store *store)
     update();
 }
 
+int FileListState::chosenRow() const
+{
+    const auto &rows = m_rows.rows();
+    const auto row = std::find_if(rows.cbegin(), rows.cend(), [](const FileRow &at) { return at.selected; });
+    return row == rows.cend() ? -1 : int(row - rows.cbegin());
+}
+
 void FileListState::update()
 {
     const auto &board = m_store->board();
     const QList<FileItem> files = board ? board->files : QList<FileItem>();
     m_rows.setRows(fileRows(files, m_store->selection()));
+    if (m_selection != m_store->selection()) {
+        m_selection = m_store->selection();
+        Q_EMIT chosen();
+    }
     if (m_empty == files.isEmpty())
         return;
     m_empty = files.isEmpty();

@@ -26,11 +26,17 @@ public:
     /// There is no board, or none with files.
     bool empty() const { return m_empty; }
 
+    /// Where the first selected file stands in the list; -1 without one.
+    Q_INVOKABLE int chosenRow() const;
+
 Q_SIGNALS:
+    /// The person, or the program for them, has selected something else.
+    void chosen();
     void storeChanged();
     void emptyChanged();
 
 private:
+    QSet<QString> m_selection;
     void update();
 
     Store *m_store = nullptr;

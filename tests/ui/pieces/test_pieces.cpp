@@ -1,5 +1,6 @@
 #include "appearance.h"
 #include "faces.h"
+#include "facts.h"
 #include "shadow.h"
 #include "status.h"
 #include "typeface.h"
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void aStatusSaysWhereAFileStands();
     void initialsAreThoseOfTheFirstAndTheLastWord_data();
     void initialsAreThoseOfTheFirstAndTheLastWord();
+    void aFactThatIsWrittenFromTheRightTurnsNothingElse();
     void aFaceKeepsItsColourAndWhiteIsReadableOnIt();
     void aShadowIsDarkestUnderItsPanelAndEndsAtItsMargin();
     void theTypefaceHasItsWeights();
@@ -71,6 +73,13 @@ void TestPieces::initialsAreThoseOfTheFirstAndTheLastWord()
 {
     QFETCH(QString, name);
     QTEST(initials(name), "letters");
+}
+
+void TestPieces::aFactThatIsWrittenFromTheRightTurnsNothingElse()
+{
+    QCOMPARE(joinedFacts({u"a"_s, QString(), u"b"_s}), u"a · b"_s);
+    QCOMPARE(joinedFacts({u"a"_s, u"\u05d0\u05d1"_s, u"b"_s}), u"a · \u2068\u05d0\u05d1\u2069 · b"_s);
+    QCOMPARE(isolated(u"x\u202ey"_s), u"\u2068x\u202ey\u2069"_s);
 }
 
 void TestPieces::aFaceKeepsItsColourAndWhiteIsReadableOnIt()

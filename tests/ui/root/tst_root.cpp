@@ -50,6 +50,8 @@ private Q_SLOTS:
     void anOfferWithoutNotesShowsNone();
     void signingInWaitsForThePersonWhoMayThinkBetterOfIt();
     void theSignInPageCanBeOpenedElsewhere();
+    void theAccountMenuSignsOut();
+    void theAccountMenuChangesThePhoto();
 
 private:
     const QSize m_size{1180, 720};
@@ -238,6 +240,31 @@ void RootTest::theSignInPageCanBeOpenedElsewhere()
     screen.click(link);
     QTRY_COMPARE(QGuiApplication::clipboard()->text(), live.store.signInPage().toString(QUrl::FullyEncoded));
     QCOMPARE(live.toast(), u"Link copied."_s);
+}
+
+void RootTest::theAccountMenuSignsOut()
+{
+    LiveStore live;
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    screen.click(screen.only("AccountMenu"));
+    QTRY_VERIFY(screen.texts().contains(u"Change my photo…"_s));
+    screen.press(Qt::Key_Down);
+    screen.press(Qt::Key_Return);
+    QVERIFY(!live.store.signedIn());
+    QTRY_VERIFY(screen.only("SignInView"));
+}
+
+void RootTest::theAccountMenuChangesThePhoto()
+{
+    LiveStore live;
+    live.begin();
+    Screen screen(live.store, rootQml, m_size);
+    screen.click(screen.only("AccountMenu"));
+    QTRY_VERIFY(screen.texts().contains(u"Sign out"_s));
+    screen.press(Qt::Key_Return);
+    QCOMPARE(live.picker.messages, QStringList{u"Pick a photo for your profile."_s});
+    QVERIFY(live.store.signedIn());
 }
 
 QTEST_MAIN(RootTest)

@@ -1,0 +1,56 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vexal.Pieces
+
+/// What lies over the whole window while it is open and has the keyboard: Escape and presses beside its content ask for
+/// its end, and nothing under it feels the pointer. Afterwards the keyboard is back where it was.
+FocusScope {
+    id: root
+
+    /// The item that it was opened from: it lies over that item's window.
+    required property Item opener
+    property bool open: false
+    default property alias content: content.data
+
+    signal dismissed
+
+    property Item before: null
+
+    parent: root.opener.Window.contentItem
+    anchors.fill: parent
+    visible: root.opacity > 0
+    enabled: false
+    opacity: root.open ? 1 : 0
+
+    Behavior on opacity {
+        StandardFade {}
+    }
+
+    Keys.onEscapePressed: root.dismissed()
+    onOpenChanged: root.settle()
+    Component.onCompleted: root.settle()
+
+    function settle() {
+        if (root.open && !root.enabled) {
+            root.before = root.opener.Window.activeFocusItem;
+            root.enabled = true;
+            root.forceActiveFocus();
+        } else if (!root.open && root.enabled) {
+            if (root.activeFocus && root.before)
+                root.before.forceActiveFocus();
+            root.enabled = false;
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        acceptedButtons: Qt.AllButtons
+        onPressed: root.dismissed()
+        onWheel: wheel => wheel.accepted = true
+    }
+    Item {
+        id: content
+        anchors.fill: parent
+    }
+}
