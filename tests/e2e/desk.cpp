@@ -57,6 +57,10 @@ Exec=%1 %f
 MimeType=%2;
 )"_L1;
 
+constexpr auto viewerScript = R"(#!/bin/sh
+echo "$1" >>%1
+)"_L1;
+
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
@@ -182,9 +186,11 @@ void Desk::clear()
     m_keyring->remove(deployment::applicationId.toString(), u"session"_s);
 }
 
-void Desk::openFilesWith(const QString &mimeType, const QString &program) const
+void Desk::logOpened(const QString &mimeType, const QString &log) const
 {
-    write(u"data/applications/viewer.desktop"_s, QString(viewerEntry).arg(program, mimeType));
+    write(u"viewer"_s, QString(viewerScript).arg(log));
+    QFile::setPermissions(path(u"viewer"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    write(u"data/applications/viewer.desktop"_s, QString(viewerEntry).arg(path(u"viewer"_s), mimeType));
     write(u"config/mimeapps.list"_s, defaults + mimeType + "=viewer.desktop\n"_L1);
 }
 

@@ -34,8 +34,8 @@ public:
     /// Ends the browser and forgets all that it and the client wrote: settings, pictures, downloads, and the token.
     void clear();
 
-    /// Gives what opens files of a kind: the program is handed the path of each.
-    void openFilesWith(const QString &mimeType, const QString &program) const;
+    /// Files of that kind are opened by a program that writes their paths to the log, a line each.
+    void logOpened(const QString &mimeType, const QString &log) const;
 
     /// The program of that process on the accessibility bus, once it is there.
     std::optional<Accessible> program(qint64 processId) const;
