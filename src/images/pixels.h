@@ -14,13 +14,13 @@ namespace vexal {
 /// What pixels are made of: a picture, or the difference of two pages.
 struct Source
 {
-    Source(Picture only)
-        : picture(std::move(only))
+    Source(const Picture &only)
+        : picture(only)
     {
     }
-    Source(Picture supplier, Picture ours)
-        : picture(std::move(supplier))
-        , other(std::move(ours))
+    Source(const Picture &supplier, const Picture &ours)
+        : picture(supplier)
+        , other(ours)
     {
     }
 

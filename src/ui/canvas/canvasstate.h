@@ -19,7 +19,7 @@ class CanvasState : public QObject
     Q_PROPERTY(QAbstractListModel *marks READ marks CONSTANT FINAL)
     Q_PROPERTY(QAbstractListModel *pins READ pins CONSTANT FINAL)
     Q_PROPERTY(QAbstractListModel *ahead READ ahead CONSTANT FINAL)
-    Q_PROPERTY(QStringList modeLabels READ modeLabels CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> modeLabels READ modeLabels CONSTANT FINAL)
 
 public:
     explicit CanvasState(QObject *parent = nullptr);

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
 namespace vexal {
@@ -16,14 +17,17 @@ class Action : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The actions stand in one table.")
-    Q_PROPERTY(QString name MEMBER m_name CONSTANT FINAL)
-    Q_PROPERTY(QStringList sequences MEMBER m_sequences CONSTANT FINAL)
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
+    Q_PROPERTY(QVariantList sequences READ sequences CONSTANT FINAL)
     Q_PROPERTY(bool enabled READ enabled NOTIFY enabledChanged FINAL)
 
 public:
     /// `name` as a menu says it; `sequences` the keys that ask for it, as in "Ctrl+N".
     Action(const QString &name, const QStringList &sequences, QObject *parent);
 
+    QString name() const { return m_name; }
+    /// The keys that ask for it, each a text as in "Ctrl+N".
+    QVariantList sequences() const { return {m_sequences.cbegin(), m_sequences.cend()}; }
     /// Somebody answers.
     bool enabled() const { return m_enabled; }
 

@@ -2,6 +2,8 @@
 
 #include "action.h"
 
+#include <QQmlListProperty>
+
 namespace vexal {
 
 /// Everything that can be asked for by a key, in one table: menus and buttons share these, so that no sequence is taken
@@ -19,18 +21,18 @@ class Actions : public QObject
     Q_PROPERTY(vexal::Action *fitPage MEMBER m_fitPage CONSTANT FINAL)
     Q_PROPERTY(vexal::Action *actualSize MEMBER m_actualSize CONSTANT FINAL)
     Q_PROPERTY(vexal::Action *close MEMBER m_close CONSTANT FINAL)
-    Q_PROPERTY(QList<QObject *> all READ all CONSTANT FINAL)
+    Q_PROPERTY(QQmlListProperty<vexal::Action> all READ listInQml CONSTANT FINAL)
 
 public:
     explicit Actions(QObject *parent = nullptr);
 
-    /// Each of them, as an `Action`.
-    QList<QObject *> all() const { return m_all; }
+    const QList<Action *> &all() const { return m_all; }
 
 private:
+    QQmlListProperty<Action> listInQml() { return {this, &m_all}; }
     Action *add(const QString &name, const QStringList &sequences);
 
-    QList<QObject *> m_all;
+    QList<Action *> m_all;
     Action *m_pinNote;
     Action *m_previousPage;
     Action *m_nextPage;
