@@ -1,10 +1,10 @@
 // The client at its fast pace for a long time, on a board that never rests: whether it keeps what it takes.
 // soak SAMPLE SECONDS; a fifth of the time is for warming up. Ends with 1 when the memory or the descriptors grew.
 #include "liveclient.h"
-#include "moment.h"
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QTimer>
 
@@ -28,11 +28,24 @@ struct Figures
     double descriptors = 0;
 };
 
+/// What this process alone holds: what it shares weighs more or less with whoever else runs.
+double ownMegabytes()
+{
+    QFile file(u"/proc/self/status"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith("RssAnon:"))
+            return line.mid(8).chopped(2).trimmed().toDouble() / 1024;
+    }
+    return 0;
+}
+
 Figures figuresNow()
 {
     // The folder's own listing is one of them.
     const auto open = QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
-    return {proportionalMegabytes(), double(open.size() - 1)};
+    return {ownMegabytes(), double(open.size() - 1)};
 }
 
 double median(QList<Figures> samples, double Figures::*figure)
