@@ -12,6 +12,7 @@ namespace vexal {
 namespace {
 
 constexpr auto accessibleInterface = "org.a11y.atspi.Accessible"_L1;
+constexpr auto actionInterface = "org.a11y.atspi.Action"_L1;
 constexpr int patience = 10'000;      ///< Milliseconds for one answer.
 constexpr int mostVisited = 5000;     ///< So many on one way through, should a tree run in a circle.
 constexpr uint screenCoordinates = 0; ///< As against those of the window.
@@ -107,9 +108,30 @@ QRect Accessible::place() const
     return {x, y, width, height};
 }
 
+int Accessible::pressAction() const
+{
+    const auto reply = ask(actionInterface, u"GetActions"_s);
+    if (reply.isEmpty())
+        return 0;
+    int press = -1;
+    int number = 0;
+    const auto actions = reply.first().value<QDBusArgument>();
+    actions.beginArray();
+    for (; !actions.atEnd(); ++number) {
+        QString name, description, keys;
+        actions.beginStructure();
+        actions >> name >> description >> keys;
+        actions.endStructure();
+        if (press < 0 && name.compare("press"_L1, Qt::CaseInsensitive) == 0)
+            press = number;
+    }
+    actions.endArray();
+    return qMax(0, press);
+}
+
 bool Accessible::press() const
 {
-    const auto reply = ask(u"org.a11y.atspi.Action"_s, u"DoAction"_s, {0});
+    const auto reply = ask(actionInterface, u"DoAction"_s, {pressAction()});
     return !reply.isEmpty() && reply.first().toBool();
 }
 

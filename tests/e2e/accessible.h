@@ -39,6 +39,7 @@ public:
 
 private:
     bool hasState(uint number) const;
+    int pressAction() const; ///< Its number: taking the focus may come before it.
     QVariant property(const QString &name) const;
     QList<QVariant> ask(const QString &interface, const QString &method, const QList<QVariant> &arguments = {}) const;
 

@@ -61,4 +61,6 @@ bool isDrawn(const QByteArray &pixels);
 
 } // namespace vexal
 
-#define WAIT_FOR(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, vexal::Stage::patience)
+/// By the clock: looking takes its time, too.
+#define WAIT_FOR(condition)                                                                                            \
+    QVERIFY2(QTest::qWaitFor([&] { return bool(condition); }, vexal::Stage::patience), #condition)

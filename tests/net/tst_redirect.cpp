@@ -149,7 +149,7 @@ void RedirectTest::anotherOriginCannotSignThePersonOut()
     client.server.on("GET", "/x")
         .answer(302, QByteArray(), {{"Location", (abroad.url().toString() + u"/there"_s).toUtf8()}});
     const auto answer = client.send({.path = u"x"_s, .entityTag = u"\"1\""_s});
-    QCOMPARE(answer.failure().kind, Failure::Kind::Server);
+    QCOMPARE(answer.failure().kind, vexal::Failure::Kind::Server);
     QCOMPARE(abroad.requests().size(), 1);
     QVERIFY(!abroad.requests().first().header("Authorization"));
     QVERIFY(!abroad.requests().first().header("If-None-Match"));
