@@ -1,6 +1,7 @@
 #include "api.h"
 #include "change.h"
 #include "launcherbadge.h"
+#include "notifications.h"
 #include "signin.h"
 #include "surroundings.h"
 
@@ -106,6 +107,7 @@ void Store::clearSession()
     m_detailSet.clear();
     m_held.clear();
     m_world->badge.show(0);
+    m_world->notifications.withdraw();
 }
 
 } // namespace vexal

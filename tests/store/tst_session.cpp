@@ -62,6 +62,7 @@ private Q_SLOTS:
                                             .credentials = credentials,
                                             .windows = around.windows,
                                             .badge = around.badge,
+                                            .notifications = around.notifications,
                                             .opener = around.opener,
                                             .picker = around.picker,
                                             .sleep = around.sleep});
