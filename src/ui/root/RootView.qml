@@ -7,6 +7,18 @@ import Vexal.Root
 FocusScope {
     id: root
 
+    /// How far down the window can be taken by the pointer: to the foot of the sidebar's header.
+    readonly property int header: 78
+
+    /// Fills the screen with the window, or gives it back its own size.
+    function zoom() {
+        const window = root.Window.window;
+        if (window.visibility === Window.Windowed)
+            window.showMaximized();
+        else
+            window.showNormal();
+    }
+
     RootState {
         id: board
         store: Store
@@ -14,6 +26,13 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Theme.window
+    }
+    // Behind what can be pressed: the empty places of the header are the window's handle.
+    WindowHandle {
+        objectName: "header"
+        width: parent.width
+        height: root.header
+        onDoubleClicked: root.zoom()
     }
     When {
         active: !Store.signedIn
@@ -42,6 +61,10 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 22
         state: board
+    }
+    WindowEdges {}
+    WindowButtons {
+        onZoomRequested: root.zoom()
     }
     HintLayer {}
 }
