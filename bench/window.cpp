@@ -28,7 +28,7 @@ bool pagesShown(const QQuickItem *item)
     int shown = 0;
     const auto visit = [&shown](const auto &self, const QQuickItem *at) -> bool {
         if (const auto *picture = qobject_cast<const RemoteImage *>(at);
-            picture && picture->isVisible() && at->height() > 200) {
+            picture && picture->isVisible() && !picture->key().isEmpty() && at->height() > 200) {
             if (!picture->hasPicture())
                 return false;
             ++shown;

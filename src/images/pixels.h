@@ -11,6 +11,26 @@
 
 namespace vexal {
 
+/// What pixels are made of: a picture, or the difference of two pages.
+struct Source
+{
+    Source(const Picture &only)
+        : picture(only)
+    {
+    }
+    Source(const Picture &supplier, const Picture &ours)
+        : picture(supplier)
+        , other(ours)
+    {
+    }
+
+    /// Its own size in pixels; of two pages that of the larger one.
+    QSize size() const;
+
+    Picture picture;
+    std::optional<Picture> other;
+};
+
 /// The one place where decoded pixels are held, within a budget of bytes. What somebody still shows is never given up;
 /// of the rest the level that was not wanted for longest goes first. Workers decode; answers arrive on the
 /// user-interface thread.
@@ -34,15 +54,21 @@ public:
     /// Waits for the workers.
     ~Pixels() override;
 
-    /// The size at which a picture is decoded to be shown at a size in device pixels: that size, or its own where that
+    /// The size at which a source is decoded to be shown at a size in device pixels: that size, or its own where that
     /// is not larger.
-    static QSize levelFor(const Picture &picture, QSize shown);
+    static QSize levelFor(const Source &source, QSize shown);
+    /// The same while the shown size keeps changing: the smallest of its own size and the halves of it that is not
+    /// smaller than what is shown, so that a few levels do for all sizes.
+    static QSize steppedLevelFor(const Source &source, QSize shown);
 
-    /// A picture's level that is held; null when it is not.
-    QImage held(const Picture &picture, QSize level);
-    /// Answers a level: at once when it is held, else when it is decoded; null when the picture turns out to be none.
-    /// Nothing is answered to a context that has gone, and what nobody waits for any more is not begun.
-    void load(const Picture &picture, QSize level, Urgency urgency, QObject *context, const Done &done);
+    /// A source's level that is held; null when it is not.
+    QImage held(const Source &source, QSize level);
+    /// The largest level of a source that is held, to stand in for another; null when there is none.
+    QImage heldInstead(const Source &source);
+    /// Answers a level: at once when it is held, else when it is made; null when the picture turns out to be none.
+    /// Nothing is answered to a context that has gone, and what nobody waits for any more is not begun. The difference
+    /// of two pages is taken at their full size, whatever the level, and is held at that size as well.
+    void load(const Source &source, QSize level, Urgency urgency, QObject *context, const Done &done);
 
     /// Bytes of all levels that are held.
     qint64 bytes() const { return m_bytes; }
@@ -51,12 +77,13 @@ private:
     struct Key
     {
         quint64 picture = 0;
+        quint64 other = 0; ///< 0: the picture itself.
         QSize size;
         bool operator==(const Key &) const = default;
     };
     friend size_t qHash(const Key &key, size_t seed)
     {
-        return qHashMulti(seed, key.picture, key.size.width(), key.size.height());
+        return qHashMulti(seed, key.picture, key.other, key.size.width(), key.size.height());
     }
     struct Level
     {
@@ -70,15 +97,18 @@ private:
     };
     struct Job
     {
-        std::optional<Picture> picture;
+        std::optional<Source> source;
         Urgency urgency = Urgency::Ahead;
         bool running = false;
         QList<Waiter> waiters;
     };
 
+    static Key keyOf(const Source &source, QSize level);
     void startNext();
     bool takeNext(Key &next);
-    void finish(const Key &key, const QImage &image);
+    void make(const Key &key, const Source &source);
+    QImage known(const Source &source) const;
+    void finish(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole);
     void keep(const Key &key, const QImage &image);
     void giveUp(qint64 bytes);
 

@@ -44,6 +44,10 @@ private Q_SLOTS:
     void theDifferenceIsTheDistanceOfEachChannel();
     void aSmallerPageIsBroughtToTheLargersSize();
     void nothingHasNoDifference();
+    void theDifferenceOfTwoPicturesIsMadeByWorkers();
+    void aDifferenceIsTakenAtFullSizeWhateverTheLevel();
+    void stepsAreHalvesThatAreNotSmallerThanWhatIsShown();
+    void theLargestHeldLevelStandsIn();
 
 private:
     QImage load(Pixels &pixels, const Picture &picture, QSize level)
@@ -218,6 +222,66 @@ void PixelsTest::nothingHasNoDifference()
 {
     QVERIFY(pageDifference({}, filled({3, 3}, 0)).isNull());
     QVERIFY(pageDifference(filled({3, 3}, 0), {}).isNull());
+}
+
+void PixelsTest::theDifferenceOfTwoPicturesIsMadeByWorkers()
+{
+    Pixels pixels;
+    const Picture red = picture({60, 80}, QColor(200, 0, 0));
+    const Picture blue = picture({60, 80}, QColor(0, 0, 100));
+    QImage difference;
+    pixels.load({red, blue}, {60, 80}, Pixels::Urgency::Shown, this, [&](const QImage &image) { difference = image; });
+    QVERIFY(difference.isNull());
+    QTRY_VERIFY(!difference.isNull());
+    QCOMPARE(difference.pixel(30, 40), qRgb(200, 0, 100));
+    QVERIFY(!pixels.held({red, blue}, {60, 80}).isNull());
+    QVERIFY(pixels.held(red, {60, 80}).isNull());
+}
+
+void PixelsTest::aDifferenceIsTakenAtFullSizeWhateverTheLevel()
+{
+    // Black and white columns against white and black ones: alike when averaged, opposites pixel by pixel.
+    const auto columns = [](int first) {
+        QImage page(80, 80, QImage::Format_RGB32);
+        for (int y = 0; y < 80; ++y) {
+            for (int x = 0; x < 80; ++x)
+                page.setPixel(x, y, x % 2 == first ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+        }
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        page.save(&buffer, "PNG");
+        return *Picture::fromBytes(bytes);
+    };
+    Pixels pixels;
+    const Source pair(columns(0), columns(1));
+    QImage difference;
+    pixels.load(pair, {20, 20}, Pixels::Urgency::Shown, this, [&](const QImage &image) { difference = image; });
+    QTRY_COMPARE(difference.size(), QSize(20, 20));
+    QCOMPARE(difference.pixel(10, 10), qRgb(255, 255, 255));
+    // It is held at its full size, too, for whoever looks closer.
+    QCOMPARE(pixels.held(pair, {80, 80}).size(), QSize(80, 80));
+}
+
+void PixelsTest::stepsAreHalvesThatAreNotSmallerThanWhatIsShown()
+{
+    const Picture page = picture({400, 600});
+    QCOMPARE(Pixels::steppedLevelFor(page, {401, 601}), QSize(400, 600));
+    QCOMPARE(Pixels::steppedLevelFor(page, {201, 301}), QSize(400, 600));
+    QCOMPARE(Pixels::steppedLevelFor(page, {200, 300}), QSize(200, 300));
+    QCOMPARE(Pixels::steppedLevelFor(page, {60, 90}), QSize(100, 150));
+    QCOMPARE(Pixels::steppedLevelFor(page, {0, 0}), QSize(1, 2));
+}
+
+void PixelsTest::theLargestHeldLevelStandsIn()
+{
+    Pixels pixels;
+    const Picture page = picture({200, 300});
+    QVERIFY(pixels.heldInstead(page).isNull());
+    load(pixels, page, {50, 75});
+    load(pixels, page, {100, 150});
+    load(pixels, picture({200, 300}), {200, 300});
+    QCOMPARE(pixels.heldInstead(page).size(), QSize(100, 150));
 }
 
 QTEST_GUILESS_MAIN(PixelsTest)

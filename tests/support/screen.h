@@ -92,7 +92,7 @@ private:
         if (!item || !item->isVisible())
             return;
         const QByteArray name = item->metaObject()->className();
-        if (name.startsWith(type + "_QML") || name == "vexal::" + type)
+        if (name.startsWith(type + "_QML") || name == "vexal::" + type || name.startsWith("vexal::" + type + "_QML"))
             found.append(item);
         const auto children = item->childItems();
         for (QQuickItem *child : children)

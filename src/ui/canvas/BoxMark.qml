@@ -3,12 +3,20 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.Canvas
 
-/// One finding's places on a page. As large as the page; only the boxes themselves take the pointer.
+/// One finding's places on a page, all of them one mark. As large as the page; only the boxes take the pointer, and the
+/// keyboard stops at the first.
 Item {
     id: root
 
     required property boxMark mark
+    readonly property color tone: root.mark.tone === Tone.Neutral ? Theme.expected : Theme.tint(root.mark.tone).plain
+    property int hovers: 0
+
     signal toggled
+    /// The keyboard came to the mark.
+    signal reached
+
+    z: root.mark.layer
 
     Repeater {
         model: root.mark.boxes
@@ -16,39 +24,62 @@ Item {
         Item {
             id: box
             required property rect modelData
+            required property int index
             readonly property rect place: CanvasGeometry.boxOnPane(box.modelData, root.width, root.height)
-            readonly property color tone: root.mark.tone === Tone.Neutral ? Theme.expected : Theme.tint(root.mark.tone).plain
 
+            objectName: "box"
             x: box.place.x
             y: box.place.y
             width: box.place.width
             height: box.place.height
+            activeFocusOnTab: box.index === 0
 
             Accessible.role: Accessible.Button
             Accessible.name: root.mark.title
+            Accessible.description: "A finding on the page"
+            Accessible.focusable: box.index === 0
             Accessible.selectable: true
             Accessible.selected: root.mark.selected
             Accessible.onPressAction: root.toggled()
+            Keys.onSpacePressed: root.toggled()
+            Keys.onReturnPressed: root.toggled()
+            Keys.onEnterPressed: root.toggled()
+            onActiveFocusChanged: {
+                if (box.activeFocus)
+                    root.reached();
+            }
 
             Rectangle {
                 anchors.fill: parent
                 radius: 3
-                color: box.tone
+                color: root.tone
                 opacity: 0.1
             }
+            // The lines lie on whole pixels, so that all four sides look the same.
+            Item {
+                id: lines
+                function onPixelGrid(points: real): real {
+                    return Math.round(points * Screen.devicePixelRatio) / Screen.devicePixelRatio;
+                }
+                x: lines.onPixelGrid(box.x) - box.x
+                y: lines.onPixelGrid(box.y) - box.y
+                width: lines.onPixelGrid(box.width)
+                height: lines.onPixelGrid(box.height)
+            }
             StrokedBox {
-                anchors.fill: parent
+                anchors.fill: lines
                 line: root.mark.selected ? 5 : 4
                 color: "white"
                 opacity: 0.9
             }
             StrokedBox {
-                anchors.fill: parent
-                line: root.mark.selected || hover.hovered ? 2.4 : 1.6
-                color: box.tone
+                anchors.fill: lines
+                line: root.mark.selected || root.hovers > 0 ? 2.4 : 1.6
+                color: root.tone
             }
             HoverHandler {
                 id: hover
+                onHoveredChanged: root.hovers += hover.hovered ? 1 : -1
             }
             TapHandler {
                 gesturePolicy: TapHandler.ReleaseWithinBounds
@@ -56,6 +87,9 @@ Item {
             }
             Hint {
                 text: root.mark.title
+            }
+            FocusRing {
+                around: 3
             }
         }
     }

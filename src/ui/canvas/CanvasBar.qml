@@ -3,45 +3,108 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.Canvas
 
-/// Over the canvas: which of our files to compare with, and the pages of the file.
+/// Over the canvas: which of our files to compare with and how, the tool that pins notes, and the pages of the file. On
+/// a narrow canvas it takes two rows.
 Item {
     id: root
 
     required property CanvasState state
+    required property Blending blending
     readonly property comparison comparison: root.state.comparison
+    readonly property bool overlaid: Store.mode === Store.Overlay
+    readonly property int inset: 18
+    readonly property int gap: 12
+    readonly property bool wraps: choice.width + (blend.visible ? root.gap + blend.width : 0) + root.gap + turning.width + 2 * root.inset > root.width
+    readonly property int rowHeight: 44
+    readonly property int secondRow: root.wraps ? root.rowHeight - 8 : 0
 
-    implicitHeight: 44
+    implicitHeight: root.rowHeight + root.secondRow
 
-    SegmentedControl {
-        x: 18
-        anchors.verticalCenter: parent.verticalCenter
-        visible: root.comparison.roles.length > 0
-        name: "Compare with"
-        help: "Which of our files to compare with"
-        titles: root.comparison.roleLabels
-        current: root.comparison.roleIndex
-        onChosen: index => Store.setAgainst(root.comparison.roles[index])
-    }
-    Label {
-        x: 18
-        anchors.verticalCenter: parent.verticalCenter
-        visible: root.state.ready && root.comparison.count > 0 && root.comparison.roles.length === 0
-        text: "No file of ours was found for this page"
-        size: 12
-        color: Theme.secondary
+    Row {
+        id: choice
+        x: root.inset
+        height: root.rowHeight
+        spacing: root.gap
+
+        SegmentedControl {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.comparison.roles.length > 0
+            name: "Compare with"
+            help: "Which of our files to compare with"
+            titles: root.comparison.roleLabels
+            current: root.comparison.roleIndex
+            onChosen: index => Store.setAgainst(root.comparison.roles[index])
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.state.ready && root.comparison.count > 0 && root.comparison.roles.length === 0
+            text: "No file of ours was found for this page"
+            size: 12
+            color: Theme.secondary
+        }
+        SegmentedControl {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.comparison.count > 0
+            name: "View"
+            titles: root.state.modeLabels
+            current: Store.mode
+            onChosen: index => root.state.chooseMode(index)
+        }
     }
     Row {
+        id: blend
+        x: root.wraps ? root.inset : choice.x + choice.width + root.gap
+        y: root.secondRow
+        height: root.rowHeight
+        spacing: root.gap
+        visible: root.overlaid && root.comparison.count > 0
+
+        Slider {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "How much of ours shows through"
+            help: "How much of ours shows through"
+            value: root.blending.share
+            opacity: root.blending.difference ? Theme.disabled : 1
+            onMoved: value => root.blending.share = value
+        }
+        CheckBox {
+            anchors.verticalCenter: parent.verticalCenter
+            title: "Difference"
+            checked: root.blending.difference
+            onToggled: checked => root.blending.difference = checked
+        }
+    }
+    Row {
+        id: turning
         anchors.right: parent.right
         anchors.rightMargin: 12
-        anchors.verticalCenter: parent.verticalCenter
+        y: root.secondRow
+        height: root.rowHeight
         visible: root.comparison.count > 0
-        spacing: 2
 
+        ToolButton {
+            anchors.verticalCenter: parent.verticalCenter
+            title: "Note"
+            icon: "mappin.and.ellipse"
+            help: "Pin a note on the supplier page (⌘N)"
+            on: Store.pinning
+            onClicked: Actions.pinNote.trigger()
+        }
+        Item {
+            width: 25
+            height: parent.height
+            Rule {
+                anchors.centerIn: parent
+                upright: true
+                height: 16
+            }
+        }
         Label {
             anchors.verticalCenter: parent.verticalCenter
             text: root.comparison.pageText
             size: 12.5
             weight: Font.DemiBold
+            width: Math.min(implicitWidth, 90)
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
@@ -55,33 +118,33 @@ Item {
         }
         IconButton {
             anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: 24
+            implicitHeight: 24
             icon: "chevron.up"
             size: 11
             bold: true
             help: "Previous page"
-            enabled: root.comparison.index > 0
-            onClicked: root.state.turn(-1)
+            enabled: Actions.previousPage.enabled
+            onClicked: Actions.previousPage.trigger()
+        }
+        Item {
+            width: 2
+            height: 1
         }
         IconButton {
             anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: 24
+            implicitHeight: 24
             icon: "chevron.down"
             size: 11
             bold: true
             help: "Next page"
-            enabled: root.comparison.index < root.comparison.count - 1
-            onClicked: root.state.turn(1)
+            enabled: Actions.nextPage.enabled
+            onClicked: Actions.nextPage.trigger()
         }
     }
     Rule {
         anchors.bottom: parent.bottom
         width: parent.width
-    }
-    Shortcut {
-        sequence: "Ctrl+Up"
-        onActivated: root.state.turn(-1)
-    }
-    Shortcut {
-        sequence: "Ctrl+Down"
-        onActivated: root.state.turn(1)
     }
 }

@@ -3,20 +3,69 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.Canvas
 
-/// The supplier's page beside the matching page of ours, with the findings marked.
+/// The supplier's page beside, under or alternating with the matching page of ours, with the findings marked.
 FocusScope {
     id: root
 
     required property CanvasState state
     readonly property comparison comparison: root.state.comparison
+    readonly property bool any: root.comparison.count > 0
+    /// The two pages stand side by side: as asked for, or because there is none of ours to lay over.
+    readonly property bool beside: Store.mode === Store.Side || !root.comparison.matched
+    readonly property bool blinking: Store.mode === Store.Blink && !root.beside
+    readonly property bool subtracting: Store.mode === Store.Overlay && !root.beside && blending.difference
+    /// How long either page stands while they alternate, in milliseconds.
+    readonly property int blinkTime: 700
+    readonly property string file: root.state.file
+    readonly property alias blending: blending
+    readonly property alias blink: blink
+
+    onFileChanged: {
+        blending.reset();
+        zoom.fit();
+    }
+    onBlinkingChanged: blending.ours = false
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Compare pages"
 
+    Blending {
+        id: blending
+    }
+    PageZoom {
+        id: zoom
+        box: desk.box
+        page: supplier.page
+        pixels: root.comparison.supplier.pixels.width > 0 ? root.comparison.supplier.pixels : supplier.pixels
+        devicePixelRatio: Screen.devicePixelRatio
+        foot: loupe.open ? loupe.height + 10 : 0
+        mark: root.state.closeup.open ? root.state.closeup.place : Qt.rect(0, 0, -1, -1)
+    }
+    CanvasActions {
+        state: root.state
+        zoom: zoom
+        box: desk.box
+        page: supplier.page
+    }
+    Timer {
+        id: blink
+        interval: root.blinkTime
+        repeat: true
+        running: root.blinking && root.visible && Theme.lively && !Store.pinning
+        onTriggered: blending.ours = !blending.ours
+    }
+    Connections {
+        target: Store
+        // A pin is placed on the supplier's page, so that is the one to see.
+        function onPinningChanged() {
+            blending.ours = false;
+        }
+    }
     CanvasBar {
         id: bar
         width: parent.width
         state: root.state
+        blending: blending
     }
     Rectangle {
         id: desk
@@ -25,40 +74,149 @@ FocusScope {
         width: parent.width
         color: Theme.canvas
 
-        readonly property size box: CanvasGeometry.sideBySideBox(width, height)
+        readonly property size box: root.beside ? CanvasGeometry.sideBySideBox(width, height) : CanvasGeometry.singleBox(width, height)
+        /// The left button moves the page instead of pressing what is on it.
+        property bool holding: false
+        /// The keyboard is what the person uses here.
+        property bool byKey: false
+        readonly property int arrowMove: 48
+
+        function move(event: var, x: int, y: int) {
+            event.accepted = zoom.zoomed;
+            desk.byKey = true;
+            zoom.moveBy(x * desk.arrowMove, y * desk.arrowMove, supplier.page);
+        }
+
+        focus: true
+        activeFocusOnTab: root.any
+        onActiveFocusChanged: {
+            desk.holding = false;
+            desk.byKey = desk.activeFocus && desk.byKey;
+        }
+        Accessible.role: Accessible.Canvas
+        Accessible.name: "Pages"
+        Accessible.focusable: true
+        Keys.onLeftPressed: event => desk.move(event, 1, 0)
+        Keys.onRightPressed: event => desk.move(event, -1, 0)
+        Keys.onUpPressed: event => desk.move(event, 0, 1)
+        Keys.onDownPressed: event => desk.move(event, 0, -1)
+        Keys.onSpacePressed: desk.holding = true
+        Keys.onReleased: event => {
+            if (event.key === Qt.Key_Space && !event.isAutoRepeat)
+                desk.holding = false;
+        }
+
+        component Hand: PaneHand {
+            y: 22
+            z: 1
+            width: desk.box.width
+            height: desk.box.height
+            zoom: zoom
+            holding: desk.holding
+            onUsed: desk.byKey = false
+        }
 
         Pane {
+            id: supplier
             x: 18
             y: 14
-            visible: root.comparison.count > 0
+            visible: root.any
             box: desk.box
             view: root.comparison.supplier
-            dot: Theme.accent.plain
+            zoom: zoom
+            dot: blending.ours ? Theme.tertiary : Theme.accent.plain
+            label: root.beside ? view.label : !root.blinking ? root.comparison.overlayLabel : blending.ours ? root.comparison.ours.label : view.label
+            over: root.beside ? "" : root.comparison.ours.key
+            overOpacity: root.blinking ? (blending.ours ? 1 : 0) : blending.share
+            difference: root.subtracting
+            onTouched: desk.forceActiveFocus()
 
             BoxMarks {
                 anchors.fill: parent
+                // The marks belong to the supplier's page.
+                opacity: blending.ours ? 0 : 1
                 state: root.state
+                onReached: place => zoom.reveal(place)
             }
             DraftPin {
-                visible: Store.hasDraftPin
+                visible: Store.hasDraftPin && !blending.ours
                 x: Store.draftPin.x * parent.width
                 y: Store.draftPin.y * parent.height
             }
+            When {
+                active: Store.pinning
+                PinLayer {
+                    anchors.fill: parent
+                    seen: supplier.seen
+                    onPlaced: place => Store.placePin(place)
+                }
+            }
         }
         Pane {
+            id: ours
             x: 18 + desk.box.width + 18
             y: 14
-            visible: root.comparison.count > 0
+            visible: root.any && root.beside
             box: desk.box
             view: root.comparison.ours
+            zoom: zoom
             dot: Theme.tertiary
             missing: root.comparison.matched ? "" : root.comparison.missing
+            onTouched: desk.forceActiveFocus()
+        }
+        Hand {
+            x: supplier.x
+            y: supplier.y + 22
+            visible: supplier.visible
+            page: supplier.page
+        }
+        Hand {
+            x: ours.x
+            y: ours.y + 22
+            visible: ours.visible
+            page: ours.page
+        }
+        Ahead {
+            state: root.state
+            box: desk.box
+            single: !root.beside
+            difference: root.subtracting
+            active: supplier.ready && (ours.ready || !ours.visible || ours.missing !== "")
+        }
+        ZoomPill {
+            anchors.right: parent.right
+            anchors.rightMargin: 18
+            y: 9
+            visible: root.any && zoom.zoomed
+            zoom: zoom
+        }
+        Capsule {
+            x: supplier.x + supplier.sheet.x + (supplier.sheet.width - width) / 2
+            y: Math.min(supplier.y + 22 + supplier.sheet.y + supplier.sheet.height, desk.height - 14 - zoom.foot) - height - 18
+            visible: root.any && Store.pinning
+            icon: "hand.point.up.left.fill"
+            text: "Click the page"
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
         Label {
             anchors.centerIn: parent
-            visible: root.state.ready && root.comparison.count === 0
+            visible: root.state.ready && !root.any
             text: "No pages in this file."
             color: Theme.secondary
+        }
+        Loupe {
+            id: loupe
+            x: 28
+            y: desk.height - height - 24
+            z: 2
+            width: desk.width - 56
+            closeup: root.state.closeup
+            onClosed: Actions.close.trigger()
+        }
+        FocusRing {
+            anchors.margins: 2
+            visible: desk.activeFocus && desk.byKey
         }
     }
 }

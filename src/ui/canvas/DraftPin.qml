@@ -38,34 +38,10 @@ Item {
             }
         }
     }
-    Rectangle {
+    Capsule {
         x: 17
         y: -29
-        width: words.width + 22
-        height: 24
-        radius: 12
-        color: Theme.toast
-        border.width: 1
-        border.color: Theme.toastRing
-
-        Row {
-            id: words
-            anchors.centerIn: parent
-            spacing: 5
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "mappin.and.ellipse"
-                size: 12
-                color: Theme.toastText
-            }
-            Label {
-                anchors.verticalCenter: parent.verticalCenter
-                text: "Note"
-                size: 11.5
-                weight: Font.DemiBold
-                color: Theme.toastText
-                spoken: false
-            }
-        }
+        icon: "mappin.and.ellipse"
+        text: "Note"
     }
 }

@@ -2,12 +2,27 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vexal.Pieces
 
-/// A sheet of paper on the desk with a page's picture on it.
+/// A sheet of paper on the desk with what is seen of a page on it. Ours may be laid over the supplier's, in the same
+/// frame: at an opacity, or as the difference of the two.
 Item {
     id: root
 
     required property string key
     required property string label
+    /// Where the page lies behind the frame, in the frame's points.
+    required property rect page
+    /// The page is shown larger than fitted.
+    property bool zoomed: false
+    /// Our page; empty for none.
+    property string over: ""
+    property real overOpacity: 0
+    property bool difference: false
+
+    /// Only ours is to be seen.
+    readonly property bool covered: root.over !== "" && root.overOpacity >= 1 && !root.difference
+    /// What is to be seen is there.
+    readonly property bool ready: root.covered ? ours.hasPicture : picture.hasPicture && (root.over === "" || root.difference || ours.hasPicture)
+    readonly property size pixels: picture.pixels
 
     Accessible.role: Accessible.Graphic
     Accessible.name: root.label
@@ -18,14 +33,47 @@ Item {
         blur: Theme.dark ? 20 : 14
         color: Theme.pageShadow
     }
+    // Paper for pictures that let it through; it must not look out beside one that ends within a pixel.
     Rectangle {
         anchors.fill: parent
-        color: picture.hasPicture ? Theme.paper : Theme.card
+        anchors.margins: (root.covered ? ours : picture).hasPicture ? 1 : 0
+        color: (root.covered ? ours : picture).hasPicture ? Theme.paper : Theme.card
     }
-    RemoteImage {
-        id: picture
+    Item {
         anchors.fill: parent
-        key: root.key
+        clip: root.page.x < 0 || root.page.y < 0 || root.page.width > root.width || root.page.height > root.height
+
+        RemoteImage {
+            id: picture
+            x: root.page.x
+            y: root.page.y
+            width: root.page.width
+            height: root.page.height
+            opacity: root.covered ? 0 : 1
+            stepped: root.zoomed
+            key: root.key
+        }
+        RemoteImage {
+            id: ours
+            x: root.page.x
+            y: root.page.y
+            width: root.page.width
+            height: root.page.height
+            opacity: root.difference ? 0 : root.overOpacity
+            stretch: true
+            stepped: root.zoomed
+            key: root.over
+        }
+        RemoteImage {
+            x: root.page.x
+            y: root.page.y
+            width: root.page.width
+            height: root.page.height
+            stretch: true
+            stepped: root.zoomed
+            key: root.difference && root.over !== "" ? root.key : ""
+            difference: root.difference ? root.over : ""
+        }
     }
     Rectangle {
         anchors.fill: parent

@@ -17,6 +17,14 @@ constexpr qreal labelRow = 22;
 constexpr qreal narrowestAspect = 0.2;
 constexpr qreal markOutside = 3;
 constexpr qreal smallestMark = 8;
+constexpr qreal cropAroundWidth = 1.9;
+constexpr qreal cropAroundHeight = 2.4;
+constexpr qreal narrowestCrop = 0.34;
+constexpr qreal widestCrop = 2.6; ///< Times its height on the screen.
+constexpr qreal betweenCrops = 12;
+constexpr qreal captionRow = 20;
+constexpr qreal lowestCrop = 120;
+constexpr qreal highestCrop = 210;
 
 const QString submitted = u"submitted"_s;
 const QString latest = u"latest"_s;
@@ -63,10 +71,20 @@ qreal referenceAspect(const RefPage &reference, qreal supplierAspect)
     return px && px->size() == 2 && px->at(1) > 0 ? px->at(0) / px->at(1) : supplierAspect;
 }
 
-QString supplierPaneLabel(const FileItem &file, const Page &page)
+QString supplierName(const FileItem &file)
 {
     const QString supplier = file.supplier.value_or(QString());
-    return (supplier.isEmpty() ? u"Supplier"_s : supplier) + u" file · p"_s + pageLabel(page);
+    return supplier.isEmpty() ? u"Supplier"_s : supplier;
+}
+
+QString supplierPaneLabel(const FileItem &file, const Page &page)
+{
+    return supplierName(file) + u" file · p"_s + pageLabel(page);
+}
+
+QString overlayPaneLabel(const FileItem &file, const QString &role)
+{
+    return supplierName(file) + u" file over "_s + rolePhrase(role);
 }
 
 QString missingHeading(const QString &role)
@@ -110,6 +128,36 @@ QRectF boxOnPane(const Box &box, QSizeF pane)
     return {box[0] * pane.width() - markOutside, box[1] * pane.height() - markOutside,
             std::max(box[2] * pane.width() + 2 * markOutside, smallestMark),
             std::max(box[3] * pane.height() + 2 * markOutside, smallestMark)};
+}
+
+QRectF cropRegion(const Box &box, qreal aspect)
+{
+    if (box.size() != 4)
+        return {0, 0, 1, 1};
+    const qreal around = std::max(box[2] * cropAroundWidth, narrowestCrop);
+    const qreal lowest = aspect * around / widestCrop;
+    const qreal width = std::min<qreal>(around, 1);
+    const qreal height = std::min<qreal>(std::max(box[3] * cropAroundHeight, lowest), 1);
+    return {std::clamp<qreal>(box[0] + box[2] / 2 - width / 2, 0, 1 - width),
+            std::clamp<qreal>(box[1] + box[3] / 2 - height / 2, 0, 1 - height), width, height};
+}
+
+QRectF pageBehindCrop(const QRectF &region, qreal aspect, QSizeF frame)
+{
+    const qreal scale = frame.width() / region.width();
+    const qreal hidden = std::max<qreal>(0, scale * region.height() / aspect - frame.height());
+    return {-scale * region.x(), -scale * region.y() / aspect - hidden / 2, scale, scale / aspect};
+}
+
+QRectF boxOnCrop(const QRectF &box, const QRectF &page)
+{
+    return {page.x() + box.x() * page.width() - markOutside, page.y() + box.y() * page.height() - markOutside,
+            box.width() * page.width() + 2 * markOutside, box.height() * page.height() + 2 * markOutside};
+}
+
+qreal loupeHeight(qreal width)
+{
+    return std::clamp((width - betweenCrops) / 2 / widestCrop + captionRow, lowestCrop, highestCrop);
 }
 
 } // namespace vexal

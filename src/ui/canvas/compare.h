@@ -22,8 +22,13 @@ QString roleChosen(const QStringList &offered, const QString &wanted);
 /// Width over height of our page: of its picture's pixels, or that of the supplier's page where those are not known.
 qreal referenceAspect(const RefPage &reference, qreal supplierAspect);
 
+/// Who the file came from: "Ostrel Print"; "Supplier" when nobody is named.
+QString supplierName(const FileItem &file);
 /// "Ostrel Print file · p7"; "Supplier file · p7" for a file without one.
 QString supplierPaneLabel(const FileItem &file, const Page &page);
+
+/// "Ostrel Print file over what we sent"
+QString overlayPaneLabel(const FileItem &file, const QString &role);
 
 /// What our pane says in place of a page: "No file of ours for this page".
 QString missingHeading(const QString &role);
@@ -35,6 +40,18 @@ QSizeF sideBySideBox(QSizeF canvas);
 QSizeF singleBox(QSizeF canvas);
 /// The largest page of this width over height (at least 0.2) within a box of points; no side is under 1.
 QSizeF fittedPage(QSizeF box, qreal aspect);
+
+/// The part of a page that a crop around a box shows, in fractions of the page: about twice the box, at least a third
+/// of the page wide, no wider than 2.6 times its height on the screen, within the page. The whole page for a list that
+/// is no box.
+QRectF cropRegion(const Box &box, qreal aspect);
+/// Where the whole page lies behind a crop's frame of this size in points: its region fills the width. Of a region that
+/// is higher than the frame the middle is seen.
+QRectF pageBehindCrop(const QRectF &region, qreal aspect, QSizeF frame);
+/// Where a box is drawn on a page that lies there: 3 outside on every side.
+QRectF boxOnCrop(const QRectF &box, const QRectF &page);
+/// How high the loupe's crops are, caption included, when it is this wide: between 120 and 210 points.
+qreal loupeHeight(qreal width);
 
 /// Whether a finding is drawn on the supplier's page while that is compared with a role: its own role's findings, and
 /// text hidden under the art, which depends on no file of ours.

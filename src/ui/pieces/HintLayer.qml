@@ -51,6 +51,7 @@ Item {
             onTextChanged: last = text
             width: Math.min(implicitWidth, 280)
             wrapMode: Text.Wrap
+            maximumLineCount: 8
             size: 11.5
             color: Theme.toastText
             spoken: false

@@ -27,6 +27,13 @@ QtObject {
             root._wait.restart();
     }
 
+    /// Shows a hint at once, for somebody who asked for it without a pointer.
+    function tell(item: Item, words: string) {
+        root.offer(item, words);
+        root._wait.stop();
+        root._show();
+    }
+
     function withdraw(item: Item) {
         if (root._offered !== item)
             return;

@@ -40,6 +40,8 @@ FocusScope {
         yScale: root.grown
     }
 
+    // Its own Escape, before that of the window.
+    Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
     Keys.onEscapePressed: root.dismissed()
     onOpenChanged: root.settle()
     Component.onCompleted: root.settle()

@@ -76,18 +76,33 @@ void RemoteImage::setKey(const QString &key)
 {
     if (m_key == key)
         return;
-    changing([this, &key] {
-        m_key = key;
-        m_picture.reset();
+    m_key = key;
+    restart();
+    Q_EMIT keyChanged();
+}
+
+void RemoteImage::setDifference(const QString &key)
+{
+    if (m_difference == key)
+        return;
+    m_difference = key;
+    restart();
+    Q_EMIT differenceChanged();
+}
+
+// Pixels that are held are shown in the very frame in which a key changed; none outlive their keys.
+void RemoteImage::restart()
+{
+    changing([this] {
+        m_found = {};
+        m_source.reset();
         m_pixels = {};
         m_level = {};
         m_loading = false;
         m_redraw = true;
-        // Pixels that are held are shown in the very frame in which the key changed; none outlive their key.
         find();
         update();
     });
-    Q_EMIT keyChanged();
 }
 
 void RemoteImage::setFill(bool fill)
@@ -98,6 +113,25 @@ void RemoteImage::setFill(bool fill)
     want();
     update();
     Q_EMIT fillChanged();
+}
+
+void RemoteImage::setStretch(bool stretch)
+{
+    if (m_stretch == stretch)
+        return;
+    m_stretch = stretch;
+    want();
+    update();
+    Q_EMIT stretchChanged();
+}
+
+void RemoteImage::setStepped(bool stepped)
+{
+    if (m_stepped == stepped)
+        return;
+    m_stepped = stepped;
+    want();
+    Q_EMIT steppedChanged();
 }
 
 void RemoteImage::setRadius(qreal radius)
@@ -138,43 +172,67 @@ void RemoteImage::find()
     Images *cache = isComponentComplete() ? images() : nullptr;
     if (!cache || m_key.isEmpty())
         return;
-    cache->image(m_key, this, [this, key = m_key](const std::optional<Picture> &picture) {
-        if (key != m_key || !picture)
-            return;
-        changing([this, &picture] {
-            m_picture = picture;
-            want();
+    const std::array keys{m_key, m_difference};
+    for (int place = 0; place < 2; ++place) {
+        if (keys[place].isEmpty() || m_found[place])
+            continue;
+        cache->image(keys[place], this, [this, keys, place](const std::optional<Picture> &picture) {
+            if (keys == std::array{m_key, m_difference} && picture)
+                changing([&] { found(place, picture); });
         });
-    });
+    }
 }
 
-// The size in device pixels in which the picture is seen; what is cropped away counts.
+void RemoteImage::found(int place, const std::optional<Picture> &picture)
+{
+    m_found[place] = picture;
+    const bool complete = m_found[0] && (m_difference.isEmpty() || m_found[1]);
+    if (!complete)
+        return;
+    m_source = m_difference.isEmpty() ? Source(*m_found[0]) : Source(*m_found[0], *m_found[1]);
+    want();
+    Q_EMIT pixelsChanged();
+}
+
+// The size in points at which a picture of a size is drawn in the item; what is cropped away counts.
+QSizeF RemoteImage::seen(QSizeF picture, QSizeF item) const
+{
+    if (m_stretch)
+        return item;
+    return picture.scaled(item, m_fill ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio);
+}
+
+// The size in device pixels in which the picture is seen.
 QSize RemoteImage::wantedLevel() const
 {
-    if (!m_picture || !window() || width() <= 0 || height() <= 0)
+    if (!m_source || !window() || width() <= 0 || height() <= 0)
         return {};
-    const QSizeF item = size() * window()->effectiveDevicePixelRatio();
-    const QSizeF seen =
-        QSizeF(m_picture->size()).scaled(item, m_fill ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio);
-    const QSize shown(int(std::lround(seen.width())), int(std::lround(seen.height())));
-    return Pixels::levelFor(*m_picture, shown);
+    const QSizeF drawn = seen(m_source->size(), size() * window()->effectiveDevicePixelRatio());
+    const QSize shown(int(std::lround(drawn.width())), int(std::lround(drawn.height())));
+    return m_stepped ? Pixels::steppedLevelFor(*m_source, shown) : Pixels::levelFor(*m_source, shown);
 }
 
-// One level is decoded at a time; when it is there, the size of that moment is asked for.
+// One level is decoded at a time; when it is there, the size of that moment is asked for. Until then another level that
+// is held stands in, so that a page that is known is never an empty frame.
 void RemoteImage::want()
 {
     const QSize level = wantedLevel();
     if (m_loading || level.isEmpty() || level == m_level)
         return;
-    Pixels &pixels = images()->pixels();
-    if (const QImage held = pixels.held(*m_picture, level); !held.isNull())
+    Pixels &cache = images()->pixels();
+    if (const QImage held = cache.held(*m_source, level); !held.isNull())
         return show(held, level);
+    if (const QImage other = m_pixels.isNull() ? cache.heldInstead(*m_source) : QImage(); !other.isNull())
+        show(other, {});
     m_loading = true;
     const auto urgency = isVisible() ? Pixels::Urgency::Shown : Pixels::Urgency::Ahead;
-    pixels.load(*m_picture, level, urgency, this, [this, id = m_picture->id(), level](const QImage &loaded) {
-        if (m_picture && m_picture->id() == id)
-            changing([&] { receive(level, loaded); });
-    });
+    cache.load(
+        *m_source, level, urgency, this,
+        [this, id = m_source->picture.id(), keys = std::array{m_key, m_difference}, level](const QImage &loaded) {
+            const bool same = m_source && m_source->picture.id() == id;
+            if (same && keys == std::array{m_key, m_difference})
+                changing([&] { receive(level, loaded); });
+        });
 }
 
 void RemoteImage::receive(QSize level, const QImage &pixels)
@@ -184,8 +242,10 @@ void RemoteImage::receive(QSize level, const QImage &pixels)
         show(pixels, level);
         return want();
     }
-    m_picture.reset();
-    if (images()->spoiled(m_key))
+    m_found = {};
+    m_source.reset();
+    // Two pages that give no difference are shown by others, who find out which of them is spoiled.
+    if (m_difference.isEmpty() && images()->spoiled(m_key))
         find();
 }
 
@@ -197,6 +257,12 @@ void RemoteImage::show(const QImage &pixels, QSize level)
     update();
 }
 
+Placement RemoteImage::placement() const
+{
+    return m_stretch ? Placement{QRectF(QPointF(), m_pixels.size()), QRectF(QPointF(), size())}
+                     : placed(m_pixels.size(), size(), m_fill);
+}
+
 QSGNode *RemoteImage::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
     auto *picture = static_cast<QSGImageNode *>(node);
@@ -204,7 +270,7 @@ QSGNode *RemoteImage::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
         delete picture;
         return nullptr;
     }
-    const Placement place = placed(m_pixels.size(), size(), m_fill);
+    const Placement place = placement();
     const qreal scale = window()->effectiveDevicePixelRatio();
     if (!picture) {
         picture = window()->createImageNode();
@@ -212,14 +278,16 @@ QSGNode *RemoteImage::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
         m_redraw = true;
     }
     if (m_redraw) {
-        const QImage drawn = m_radius > 0 ? rounded(m_pixels, place, m_radius, scale) : m_pixels;
-        picture->setTexture(window()->createTextureFromImage(drawn));
+        const QImage image = m_radius > 0 ? rounded(m_pixels, place, m_radius, scale) : m_pixels;
+        picture->setTexture(window()->createTextureFromImage(image));
         m_redraw = false;
     }
     // A level that was made for just this size lies pixel on pixel and needs no filter.
     const QSizeF texture = picture->texture()->textureSize();
-    const QSizeF shown = m_radius > 0 ? place.target.size() * scale
-                                      : place.target.size() * scale * texture.width() / place.source.width();
+    const QSizeF drawn = place.target.size() * scale;
+    const QSizeF shown = m_radius > 0 ? drawn
+                                      : QSizeF(drawn.width() * texture.width() / place.source.width(),
+                                               drawn.height() * texture.height() / place.source.height());
     const bool exact = std::abs(shown.width() - texture.width()) < 1 && std::abs(shown.height() - texture.height()) < 1;
     picture->setFiltering(exact && m_radius <= 0 && !m_fill ? QSGTexture::Nearest : QSGTexture::Linear);
     picture->setSourceRect(m_radius > 0 ? QRectF(QPointF(), texture) : place.source);

@@ -66,5 +66,6 @@ FocusScope {
     WindowButtons {
         onZoomRequested: root.zoom()
     }
+    ActionKeys {}
     HintLayer {}
 }

@@ -74,6 +74,22 @@ private Q_SLOTS:
     void furtherBoxesBelongToTheSameMark();
     void theColourOfAMarkFollowsStateAndKind_data();
     void theColourOfAMarkFollowsStateAndKind();
+    void aCropShowsAboutTwiceTheBox();
+    void aCropIsNeverNarrowerThanAThird();
+    void aCropIsNeverWiderThanItsHeightAllows();
+    void theLowestCropComesFromTheWidthBeforeItsCap();
+    void aCropAtTheEdgeEndsThere();
+    void aListThatIsNoBoxIsCroppedToTheWholePage();
+    void aBoxOnACropLiesWhereTheRegionPutsIt();
+    void ofARegionHigherThanItsFrameTheMiddleIsSeen();
+    void theLoupeIsBetween120And210High();
+    void theOverlaysLabelNamesBoth();
+    void pinsCountThePagesPinnedNotes();
+    void theCloseupIsThatOfTheFocusedFinding();
+    void aHiddenFindingIsEnlargedOnTheFileItWasFoundAgainst();
+    void thereIsNoCloseupOfWhatIsNotDrawn();
+    void theNeighboursAndTheOtherRoleComeNext();
+    void aSmallMarkLiesAboveALargeOne();
 };
 
 void CompareTest::eachOfTwoPanesAt1000By700Is473By650()
@@ -276,6 +292,172 @@ void CompareTest::theColourOfAMarkFollowsStateAndKind()
     detail.findings[0].state = state;
     QCOMPARE(int(boxMarks(detail, 0, u"submitted"_s, {})[0].tone), tone);
     QCOMPARE(isQuiet(detail.findings[0]), quiet);
+}
+
+void CompareTest::aCropShowsAboutTwiceTheBox()
+{
+    const QRectF region = cropRegion({0.3, 0.4, 0.3, 0.25}, 0.8);
+    QCOMPARE(region.width(), 0.3 * 1.9);
+    QCOMPARE(region.height(), 0.25 * 2.4);
+    QCOMPARE(region.center(), QPointF(0.45, 0.525));
+}
+
+void CompareTest::aCropIsNeverNarrowerThanAThird()
+{
+    QCOMPARE(cropRegion({0.5, 0.5, 0, 0}, 0.8), QRectF(0.33, 0.5 - 0.8 * 0.34 / 5.2, 0.34, 0.8 * 0.34 / 2.6));
+}
+
+void CompareTest::aCropIsNeverWiderThanItsHeightAllows()
+{
+    const QRectF region = cropRegion({0.2, 0.5, 0.4, 0.001}, 0.8);
+    // On the screen: its width to its height, which is a fraction of the page's height.
+    QCOMPARE(region.width() / (region.height() / 0.8), 2.6);
+}
+
+void CompareTest::theLowestCropComesFromTheWidthBeforeItsCap()
+{
+    const QRectF region = cropRegion({0.1, 0.5, 0.8, 0.01}, 1);
+    QCOMPARE(region.width(), 1.0);
+    QCOMPARE(region.height(), 0.8 * 1.9 / 2.6);
+}
+
+void CompareTest::aCropAtTheEdgeEndsThere()
+{
+    const QRectF right = cropRegion({0.95, 0.97, 0.05, 0.03}, 0.8);
+    QCOMPARE(right.left(), 1 - right.width());
+    QCOMPARE(right.top(), 1 - right.height());
+    QCOMPARE(cropRegion({0, 0, 0.05, 0.03}, 0.8).topLeft(), QPointF(0, 0));
+}
+
+void CompareTest::aListThatIsNoBoxIsCroppedToTheWholePage()
+{
+    QCOMPARE(cropRegion({0.1, 0.2, 0.3}, 0.8), QRectF(0, 0, 1, 1));
+    QCOMPARE(cropRegion({0.1, 0.2, 0.3, 0.4, 0.5}, 0.8), QRectF(0, 0, 1, 1));
+}
+
+void CompareTest::aBoxOnACropLiesWhereTheRegionPutsIt()
+{
+    const qreal aspect = 0.8;
+    const QRectF box(0.3, 0.4, 0.1, 0.02);
+    const QRectF region = cropRegion({box.x(), box.y(), box.width(), box.height()}, aspect);
+    const QSizeF frame(390, 150);
+    const qreal s = frame.width() / region.width();
+    const QRectF drawn = boxOnCrop(box, pageBehindCrop(region, aspect, frame));
+    QCOMPARE(drawn.left(), s * (box.x() - region.left()) - 3);
+    QCOMPARE(drawn.top(), s * (box.y() - region.top()) / aspect - 3);
+    QCOMPARE(drawn.size(), QSizeF(s * box.width() + 6, s * box.height() / aspect + 6));
+}
+
+void CompareTest::ofARegionHigherThanItsFrameTheMiddleIsSeen()
+{
+    const QRectF box(0.4, 0.3, 0.1, 0.2);
+    const QRectF region = cropRegion({0.4, 0.3, 0.1, 0.2}, 0.8);
+    const QRectF drawn = boxOnCrop(box, pageBehindCrop(region, 0.8, {390, 150}));
+    QCOMPARE(drawn.center(), QPointF(195, 75));
+}
+
+void CompareTest::theLoupeIsBetween120And210High()
+{
+    QCOMPARE(loupeHeight(100), 120.0);
+    QCOMPARE(loupeHeight(801), (801 - 12) / 5.2 + 20);
+    QCOMPARE(loupeHeight(3000), 210.0);
+}
+
+void CompareTest::theOverlaysLabelNamesBoth()
+{
+    const FileItem file = fileWith({Page()});
+    QCOMPARE(comparisonOf(file, 0, u"submitted"_s).overlayLabel, u"Ostrel Print file over what we sent"_s);
+    QCOMPARE(comparisonOf(file, 0, u"latest"_s).overlayLabel, u"Ostrel Print file over the last print"_s);
+}
+
+void CompareTest::pinsCountThePagesPinnedNotes()
+{
+    const auto note = [](const QString &id, qint64 page, std::optional<double> at, qint64 resolved) {
+        Note one;
+        one.id = id;
+        one.page = page;
+        one.x = at;
+        one.y = at;
+        one.resolved = resolved;
+        return one;
+    };
+    const QList<PinMark> pins = pinMarks({note(u"no place"_s, 0, {}, 0), note(u"resolved"_s, 0, 0.1, 17),
+                                          note(u"open"_s, 0, 0.5, 0), note(u"other page"_s, 1, 0.5, 0)},
+                                         0);
+    QCOMPARE(pins.size(), 1);
+    QCOMPARE(pins[0].key, u"open"_s);
+    QCOMPARE(pins[0].number, 2);
+    QCOMPARE(pins[0].place, QPointF(0.5, 0.5));
+}
+
+void CompareTest::theCloseupIsThatOfTheFocusedFinding()
+{
+    FileDetail detail;
+    detail.file = fileWith({pageWith({u"submitted"_s})});
+    detail.findings = {findingOn(0, u"submitted"_s)};
+    detail.findings[0].ref_box = Box{0.2, 0.2, 0.3, 0.1};
+    const Closeup closeup = closeupOf(detail, 0, u"submitted"_s, u"submittedwords"_s);
+    QVERIFY(closeup.open());
+    QCOMPARE(closeup.supplier.label, u"Ostrel Print"_s);
+    QCOMPARE(closeup.ours.label, u"What we sent"_s);
+    QCOMPARE(closeup.ours.key, u"submitted/img"_s);
+    QCOMPARE(closeup.refBox, Box({0.2, 0.2, 0.3, 0.1}));
+    QCOMPARE(closeup.refBoxes.size(), 1);
+    // Where the finding does not say where it is on ours, the same place is shown, unmarked.
+    detail.findings[0].ref_box.reset();
+    QCOMPARE(closeupOf(detail, 0, u"submitted"_s, u"submittedwords"_s).refBox, *detail.findings[0].box);
+    QVERIFY(closeupOf(detail, 0, u"submitted"_s, u"submittedwords"_s).refBoxes.isEmpty());
+}
+
+void CompareTest::aHiddenFindingIsEnlargedOnTheFileItWasFoundAgainst()
+{
+    FileDetail detail;
+    detail.file = fileWith({pageWith({u"submitted"_s, u"latest"_s})});
+    detail.findings = {findingOn(0, u"latest"_s, u"hidden"_s)};
+    QCOMPARE(closeupOf(detail, 0, u"submitted"_s, u"latesthidden"_s).ours.key, u"latest/img"_s);
+    detail.file = fileWith({Page()});
+    const Closeup alone = closeupOf(detail, 0, u"submitted"_s, u"latesthidden"_s);
+    QVERIFY(alone.open());
+    QCOMPARE(alone.missing, u"No file of ours for this page"_s);
+}
+
+void CompareTest::thereIsNoCloseupOfWhatIsNotDrawn()
+{
+    FileDetail detail;
+    detail.file = fileWith({pageWith({u"submitted"_s}), Page()});
+    detail.findings = {findingOn(0, u"submitted"_s), findingOn(1, u"submitted"_s, u"fonts"_s),
+                       findingOn(0, u"latest"_s), findingOn(0, u"submitted"_s, u"art"_s)};
+    detail.findings[3].box.reset();
+    QVERIFY(!closeupOf(detail, 0, u"submitted"_s, {}).open());
+    QVERIFY(!closeupOf(detail, 0, u"submitted"_s, u"submittedfonts"_s).open());
+    QVERIFY(!closeupOf(detail, 0, u"submitted"_s, u"latestwords"_s).open());
+    QVERIFY(!closeupOf(detail, 0, u"submitted"_s, u"submittedart"_s).open());
+    QVERIFY(closeupOf(detail, 0, u"submitted"_s, u"submittedwords"_s).open());
+}
+
+void CompareTest::theNeighboursAndTheOtherRoleComeNext()
+{
+    QList<Page> pages;
+    for (int i = 0; i < 4; ++i) {
+        pages.append(pageWith({u"submitted"_s, u"latest"_s}));
+        pages[i].img = u"supplier/"_s + QString::number(i);
+    }
+    pages[2].img.reset();
+    QStringList keys;
+    for (const PageAhead &page : pagesAhead(fileWith(pages), 1, u"submitted"_s))
+        keys.append(page.key);
+    QCOMPARE(keys,
+             QStringList({u"1/latest"_s, u"2/submitted"_s, u"2/latest"_s, u"0/"_s, u"0/submitted"_s, u"0/latest"_s}));
+    QVERIFY(pagesAhead(fileWith({}), 0, u"submitted"_s).isEmpty());
+}
+
+void CompareTest::aSmallMarkLiesAboveALargeOne()
+{
+    BoxMark large;
+    large.boxes = {{0, 0, 0.5, 0.5}};
+    BoxMark small;
+    small.boxes = {{0.1, 0.1, 0.1, 0.1}};
+    QVERIFY(small.layer() > large.layer());
 }
 
 QTEST_GUILESS_MAIN(CompareTest)

@@ -41,6 +41,9 @@ private Q_SLOTS:
     void roundCornersLetTheGroundThrough();
     void aPictureShownLargerIsDecodedLarger();
     void anItemThatGoesWhileItsPictureComesLeavesNoTrace();
+    void theDifferenceOfTwoKeysIsShown();
+    void aStretchedPictureFillsTheItem();
+    void aKnownPictureIsNeverAnEmptyFrame();
 
 private:
     void show(Images::Fetch fetch)
@@ -173,6 +176,46 @@ void RemoteImageTest::anItemThatGoesWhileItsPictureComesLeavesNoTrace()
     delete m_picture;
     QTRY_VERIFY(m_screen->images().cached(u"a"_s));
     m_screen->window().grabWindow();
+}
+
+void RemoteImageTest::theDifferenceOfTwoKeysIsShown()
+{
+    show([](const QString &key, QObject *, const Images::Fetched &fetched) {
+        fetched(test::pictureBytes({100, 100}, key == u"a"_s ? QColor(200, 40, 0) : QColor(150, 40, 0)));
+    });
+    m_picture->setDifference(u"b"_s);
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(50, 0, 0));
+    m_picture->setDifference({});
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 50), QColor(200, 40, 0));
+}
+
+void RemoteImageTest::aStretchedPictureFillsTheItem()
+{
+    show(always(test::pictureBytes({200, 100}, Qt::red)));
+    m_picture->setStretch(true);
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    QCOMPARE(at(50, 10), QColor(Qt::red));
+    QCOMPARE(at(50, 90), QColor(Qt::red));
+    QCOMPARE(m_picture->pixels(), QSizeF(200, 100));
+}
+
+void RemoteImageTest::aKnownPictureIsNeverAnEmptyFrame()
+{
+    show(always(test::pictureBytes({400, 400}, Qt::red)));
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+    m_picture->setKey({});
+    m_picture->setSize({150, 150});
+    // This size was never decoded: what is held of the picture stands in for it.
+    m_picture->setKey(u"a"_s);
+    QVERIFY(m_picture->hasPicture());
+    QCOMPARE(at(120, 120), QColor(Qt::red));
+    const auto picture = m_screen->images().cached(u"a"_s);
+    QTRY_VERIFY(!m_screen->images().pixels().held(*picture, {150, 150}).isNull());
 }
 
 QTEST_MAIN(RemoteImageTest)
