@@ -49,6 +49,15 @@ FocusScope {
         }
     }
     When {
+        active: !Store.signedIn
+        AppMenu {
+            id: plainMenu
+            opener: buttons
+            onAsked: plainMenu.open = true
+            onDismissed: plainMenu.open = false
+        }
+    }
+    When {
         active: Store.signedIn
         BoardView {
             anchors.fill: parent
@@ -64,8 +73,18 @@ FocusScope {
     }
     WindowEdges {}
     WindowButtons {
+        id: buttons
         onZoomRequested: root.zoom()
     }
     ActionKeys {}
+    AppActions {
+        state: board
+        onAboutRequested: about.open = true
+    }
+    About {
+        id: about
+        opener: root
+        onDismissed: about.open = false
+    }
     HintLayer {}
 }
