@@ -24,9 +24,9 @@ void DemoSignIn::openPrivately(const QUrl &page)
     QNetworkReply *reply = m_network.post(request, form.toString(QUrl::FullyEncoded).toUtf8());
     QObject::connect(reply, &QNetworkReply::finished, reply, [this, reply] {
         reply->deleteLater();
+        // A page that leads nowhere ends the attempt, as a callback without a code does.
         const QUrl end = reply->header(QNetworkRequest::LocationHeader).toUrl();
-        if (!end.isEmpty())
-            m_opened(end);
+        m_opened(end.isEmpty() ? QUrl(u"vexal://signed-in"_s) : end);
     });
 }
 

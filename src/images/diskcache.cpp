@@ -77,7 +77,9 @@ std::optional<Picture> DiskCache::write(const QString &key, const QByteArray &by
         !isWhole(bytes.first(std::min<qsizetype>(4, bytes.size())), bytes.last(std::min(tailSize, bytes.size()))))
         return std::nullopt;
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // What its buffer cannot get rid of, on a full disk, commit() does not notice.
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    if (!written || !file.commit())
         return std::nullopt;
     return Picture::fromFile(path);
 }

@@ -36,7 +36,7 @@ bool isWritable(const QJsonValue &value)
 QString reasonIn(const QByteArray &body)
 {
     const QJsonValue error = QJsonDocument::fromJson(body).object().value("error"_L1);
-    return error.isString() ? error.toString() : refusal;
+    return error.toString().isEmpty() ? refusal : error.toString();
 }
 
 } // namespace
@@ -104,7 +104,8 @@ Result<Response> API::classified(const Outcome &outcome) const
         const bool alone = !isLoopback(outcome.url) && !m_presence.connected();
         return alone || outcome.end == Transfer::End::Dropped ? computerOffline : outOfReach;
     }
-    if (outcome.response.status == 401)
+    // Another origin was not shown the credential, and has not refused it.
+    if (outcome.response.status == 401 && !outcome.abroad)
         return Failure::signedOut();
     if (outcome.response.status >= 400)
         return Failure::server(reasonIn(outcome.response.body));

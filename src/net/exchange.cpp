@@ -55,6 +55,9 @@ void Exchange::take(Transfer::End end, const Response &response)
         return send();
     }
     auto body = unpacked(response, m_request.limit);
+    // A refusal is one, whatever its body is.
+    if (!body && response.status >= 400)
+        body.emplace();
     if (!body)
         return tell(Transfer::End::Failed);
     tell(end, {.status = response.status, .body = std::move(*body), .headers = response.headers});
@@ -65,7 +68,7 @@ void Exchange::tell(Transfer::End end, const Response &response)
     // From here on whoever asked may go without taking this along.
     m_context->disconnect(this);
     deleteLater();
-    std::exchange(m_done, nullptr)({end, m_request.url, response});
+    std::exchange(m_done, nullptr)({end, m_request.url, response, m_request.abroad});
 }
 
 } // namespace vexal

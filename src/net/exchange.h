@@ -15,6 +15,7 @@ struct Outcome
     Transfer::End end = Transfer::End::Failed;
     QUrl url = {}; ///< Where the last word came from, or should have come from.
     Response response = {};
+    bool abroad = false; ///< It came from another origin than the one that was asked.
 };
 
 /// One request on its way: sends it, follows its redirects and unpacks the response. It tells the outcome once, or,

@@ -56,6 +56,8 @@ std::optional<Outgoing> redirected(const Outgoing &request, int status, const QB
     if (next.method != "GET")
         return std::nullopt;
     next.authorization.clear();
+    next.entityTag.clear();
+    next.abroad = true;
     return next;
 }
 

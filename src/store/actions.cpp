@@ -11,6 +11,8 @@ namespace vexal {
 
 namespace {
 
+const QString theBoard; ///< Among the names of what is being written.
+
 QString statusText(const QString &status)
 {
     if (status == "reviewed"_L1)
@@ -65,6 +67,7 @@ void Store::setStatus(const QString &fileId, const QString &status)
     if (!mayAct() || !file)
         return;
     const auto taken = [this, fileId, status, before = file->status](const Response &, const Hold &busy) {
+        endWriting(theBoard);
         offerUndo(statusText(status), [this, fileId, before] { setStatus(fileId, before); });
         refresh(busy);
     };
@@ -72,7 +75,10 @@ void Store::setStatus(const QString &fileId, const QString &status)
     writeStatus(fileId, status);
     act(u"status"_s,
         {.path = u"api/files/"_s + fileId + u"/status"_s, .method = "POST", .json = QJsonObject{{u"status"_s, status}}},
-        u"That didn't save."_s, taken, [this](const Hold &busy) { refresh(busy); });
+        u"That didn't save."_s, taken, [this](const Hold &busy) {
+            endWriting(theBoard);
+            refresh(busy);
+        });
 }
 
 void Store::setFindingState(const QString &findingId, const QString &state)
@@ -83,6 +89,7 @@ void Store::setFindingState(const QString &findingId, const QString &state)
     const QString fileId = place->fileId;
     const QString before = detail(fileId)->findings.at(place->row).state;
     const auto taken = [this, fileId, findingId, state, before](const Response &, const Hold &busy) {
+        endWriting(fileId);
         offerUndo(findingText(state), [this, findingId, before] { setFindingState(findingId, before); });
         refresh(busy); // Brings the detail of the one selected file.
         if (!current() || current()->id != fileId)
@@ -91,8 +98,27 @@ void Store::setFindingState(const QString &findingId, const QString &state)
     Change change(*this);
     writeFindingState(*place, state);
     act(findingId, {.path = u"api/findings/"_s + findingId, .method = "POST", .json = QJsonObject{{u"state"_s, state}}},
-        u"That didn't save. Try again."_s, taken,
-        [this, fileId](const Hold &busy) { fetchDetail(fileId, this, busy); });
+        u"That didn't save. Try again."_s, taken, [this, fileId](const Hold &busy) {
+            endWriting(fileId);
+            fetchDetail(fileId, this, busy);
+        });
+}
+
+/// Until the server has answered the change, what it says of the board, or of the file's detail, may be from before it.
+void Store::beginWriting(const QString &what)
+{
+    ++m_writing[what];
+}
+
+/// What was asked for up to now may be from before the change, too.
+void Store::endWriting(const QString &what)
+{
+    if (--m_writing[what] == 0)
+        m_writing.remove(what);
+    if (what == theBoard)
+        m_boardWritten = ++m_number;
+    else
+        m_detailSet[what] = ++m_number;
 }
 
 /// Writes the status into the board that is held. Whatever the server makes of it, it is asked for the board itself
@@ -105,7 +131,7 @@ void Store::writeStatus(const QString &fileId, const QString &status)
     change.set(file.status_by, m_board->me.email, &Store::boardChanged);
     change.set(file.status_at, m_clock.milliseconds(), &Store::boardChanged);
     m_etag.reset();
-    m_boardWritten = ++m_number;
+    beginWriting(theBoard);
 }
 
 /// Writes the state into the detail that is held. Whatever the server makes of it, it is asked for the detail itself
@@ -119,7 +145,7 @@ void Store::writeFindingState(const Place &place, const QString &state)
         change.set(finding.state_by, m_board->me.email, &Store::detailsChanged);
     change.set(finding.state_at, m_clock.milliseconds(), &Store::detailsChanged);
     forgetTag(place.fileId);
-    m_detailSet[place.fileId] = ++m_number;
+    beginWriting(place.fileId);
 }
 
 } // namespace vexal

@@ -40,7 +40,7 @@ void Store::fetchDetail(const QString &fileId, QObject *context, const Hold &unt
 /// Takes the detail with its tag, unless what is held was asked for, or changed here, after it.
 void Store::detailAnswered(const QString &fileId, const Response &answer, quint64 asked)
 {
-    if (answer.unchanged() || asked < m_detailSet.value(fileId))
+    if (answer.unchanged() || asked < m_detailSet.value(fileId) || m_writing.contains(fileId))
         return;
     const auto detail = documentIn<FileDetail>(answer, pathOf(fileId));
     if (!detail)

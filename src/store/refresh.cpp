@@ -79,7 +79,7 @@ void Store::boardAnswered(const Response &answer, quint64 asked, const Hold &unt
 void Store::boardArrived(BoardState board, const std::optional<QString> &tag, quint64 asked)
 {
     const bool overtaken = asked < m_boardTaken && m_board && board.rev < m_board->rev;
-    if (overtaken || asked < m_boardWritten)
+    if (overtaken || asked < m_boardWritten || m_writing.contains(QString()))
         return;
     const News news = newsOf(board, m_seenEvent, m_started);
     m_seenEvent = news.seenEvent;

@@ -62,6 +62,9 @@ QString reportName(const std::optional<QString> &title)
     if (name.trimmed().isEmpty())
         return u"Vexal report"_s;
     std::replace_if(name.begin(), name.end(), isForbidden, u'-');
+    // A name that begins with a dot would hide the file.
+    if (name.startsWith(u'.'))
+        name[0] = u'-';
     return cut(name);
 }
 
@@ -73,6 +76,7 @@ std::optional<QString> saveReport(const QString &folder, const std::optional<QSt
     QTemporaryFile file(downloads.filePath(u".vexal-XXXXXX"_s));
     if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
         return {};
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     const QByteArray whole = QFile::encodeName(file.fileName());
     const QString name = reportName(title);
     for (int number = 1; number <= mostNumbers; ++number) {

@@ -15,9 +15,10 @@ void Store::resume()
     if (!m_world || m_sample || m_signedIn)
         return;
     const CredentialStore &credentials = m_world->credentials;
-    if (!credentials.known())
-        connect(&credentials, &CredentialStore::becameKnown, this, &Store::resume, Qt::UniqueConnection);
-    else if (!credentials.token().isEmpty())
+    // A store that was locked or silent tells its token later; one that a sign-in brings is that sign-in's to tell.
+    connect(&credentials, &CredentialStore::becameKnown, this, &Store::resume, Qt::UniqueConnection);
+    connect(&credentials, &CredentialStore::tokenChanged, this, &Store::resume, Qt::UniqueConnection);
+    if (credentials.known() && !credentials.token().isEmpty() && !signingIn())
         beSignedIn();
 }
 
@@ -55,6 +56,13 @@ void Store::openUrl(const QUrl &url)
 {
     if (!m_world || m_sample)
         return;
+    if (!m_world->credentials.known() && !signingIn()) {
+        // Whether somebody is signed in is not known yet.
+        connect(
+            &m_world->credentials, &CredentialStore::becameKnown, this, [this, url] { openUrl(url); },
+            Qt::SingleShotConnection);
+        return;
+    }
     const SignIn::Arrival arrival = m_world->signIn.take(url);
     if (arrival == SignIn::Arrival::SignedIn)
         beSignedIn();
@@ -64,6 +72,8 @@ void Store::openUrl(const QUrl &url)
 
 void Store::beSignedIn()
 {
+    if (m_signedIn)
+        return;
     Change(*this).set(m_signedIn, true, &Store::signedInChanged);
     start();
 }
@@ -105,6 +115,7 @@ void Store::clearSession()
     m_etag.reset();
     m_fileTags.clear();
     m_detailSet.clear();
+    m_writing.clear();
     m_held.clear();
     m_world->badge.show(0);
     m_world->notifications.withdraw();

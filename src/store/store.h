@@ -316,6 +316,8 @@ private:
     void detailFailed(const QString &fileId, const Failure &failure);
 
     // What actions are made of.
+    void beginWriting(const QString &what);
+    void endWriting(const QString &what);
     void writeStatus(const QString &fileId, const QString &status);
     void writeFindingState(const Place &place, const QString &state);
     void forgetTag(const QString &fileId);
@@ -366,8 +368,9 @@ private:
     // What is asked for and what is written here are numbered in one row, so that an answer tells whether it is older
     // than what is held.
     quint64 m_number = 0;
-    quint64 m_boardTaken = 0;            ///< Number of the request whose answer is the board.
-    quint64 m_boardWritten = 0;          ///< Number of the last change of the board made here.
+    quint64 m_boardTaken = 0;      ///< Number of the request whose answer is the board.
+    quint64 m_boardWritten = 0;    ///< Number of the last change of the board made here.
+    QHash<QString, int> m_writing; ///< How many changes of each file's detail are on their way; of the board under "".
     QHash<QString, quint64> m_detailSet; ///< Number of the request or change that each file's detail is from.
 };
 

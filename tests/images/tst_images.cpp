@@ -8,6 +8,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -92,6 +95,7 @@ private Q_SLOTS:
     void aFileCutShortIsFetchedAgain_data();
     void aFileCutShortIsFetchedAgain();
     void aFolderThatCannotBeWrittenStillShows();
+    void aFullDiskStillShowsAndKeepsNothing();
     void nothingHalfWrittenStays();
     void aFileIsReplacedAndNeverWrittenOver();
     void aBodyThatBreaksOffIsNotKeptOnDisk();
@@ -373,6 +377,22 @@ void ImagesTest::aFolderThatCannotBeWrittenStillShows()
     const auto picture = ask(*cache, u"d.jpg"_s);
     QVERIFY(picture);
     QCOMPARE(picture->decoded(picture->size()).size(), QSize(40, 10));
+}
+
+void ImagesTest::aFullDiskStillShowsAndKeepsNothing()
+{
+    // As little room as a disk can have: no file may hold a byte.
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    QVERIFY(::getrlimit(RLIMIT_FSIZE, &usual) == 0);
+    const rlimit none{.rlim_cur = 0, .rlim_max = usual.rlim_max};
+    QVERIFY(::setrlimit(RLIMIT_FSIZE, &none) == 0);
+    const auto cache = images();
+    const auto picture = ask(*cache, u"d.jpg"_s);
+    QVERIFY(::setrlimit(RLIMIT_FSIZE, &usual) == 0);
+    QVERIFY(picture);
+    QCOMPARE(picture->decoded(picture->size()).size(), QSize(40, 10));
+    QCOMPARE(QDir(path({})).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 void ImagesTest::nothingHalfWrittenStays()

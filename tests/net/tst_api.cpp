@@ -444,6 +444,7 @@ void ApiTest::aRefusalWithoutWords_data()
     QTest::newRow("no string") << QByteArray(R"({"error": {"text": "x"}})");
     QTest::newRow("null") << QByteArray(R"({"error": null})");
     QTest::newRow("a number") << QByteArray(R"({"error": 5})");
+    QTest::newRow("an empty string") << QByteArray(R"({"error": ""})");
     QTest::newRow("broken") << QByteArray(R"({"error": "x")");
 }
 

@@ -393,8 +393,10 @@ void FaultsTest::anUnknownCoding()
     Client client;
     client.server.on("GET", "/x")
         .answer(200, "?", {{"Content-Encoding", "br"}})
+        .answer(502, "?", {{"Content-Encoding", "br"}})
         .answer(200, "x", {{"Content-Encoding", "identity"}});
     QCOMPARE(client.send(fetch()).failure(), outOfReach);
+    QCOMPARE(client.send(fetch()).failure(), Failure::server(u"The server didn't take that. Try again in a moment."_s));
     QCOMPARE(client.send(fetch())->body, "x");
 }
 

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void whatHasABodyIsNotRepeatedElsewhere();
     void theCredentialStaysInItsOrigin_data();
     void theCredentialStaysInItsOrigin();
+    void anotherOriginCannotSignThePersonOut();
     void whereALocationLeads_data();
     void whereALocationLeads();
     void aLocationIsRefused_data();
@@ -137,6 +138,21 @@ void RedirectTest::theCredentialStaysInItsOrigin()
     const auto next = redirected(fetched(), 302, location);
     QVERIFY(next);
     QCOMPARE(next->authorization, QByteArray(stays ? "Bearer t" : ""));
+    QCOMPARE(next->abroad, !stays);
+}
+
+void RedirectTest::anotherOriginCannotSignThePersonOut()
+{
+    Client client;
+    ScriptedServer abroad;
+    abroad.on("GET", "/there").answer(401);
+    client.server.on("GET", "/x")
+        .answer(302, QByteArray(), {{"Location", (abroad.url().toString() + u"/there"_s).toUtf8()}});
+    const auto answer = client.send({.path = u"x"_s, .entityTag = u"\"1\""_s});
+    QCOMPARE(answer.failure().kind, vexal::Failure::Kind::Server);
+    QCOMPARE(abroad.requests().size(), 1);
+    QVERIFY(!abroad.requests().first().header("Authorization"));
+    QVERIFY(!abroad.requests().first().header("If-None-Match"));
 }
 
 void RedirectTest::whereALocationLeads_data()

@@ -253,6 +253,23 @@ private Q_SLOTS:
         QCOMPARE(m_live->client.server.requests("GET", "/api/state").last().header("If-None-Match"), std::nullopt);
     }
 
+    void aBoardThatIsAskedForWhileTheChangeIsOnItsWayDoesNotUndoIt()
+    {
+        Gate post;
+        m_live->client.server.on("POST", "/api/files/f/status").answer(Answer(200).heldBy(post));
+        m_live->store.setStatus(u"f"_s, u"reviewed"_s);
+        QTRY_COMPARE(m_live->client.server.requests("POST", "/api/files/f/status").size(), 1);
+        bool refreshed = false;
+        m_live->store.refresh(holdUntil([&] { refreshed = true; }));
+        QTRY_VERIFY(refreshed);
+        QCOMPARE(m_live->store.findFile(u"f"_s)->status, u"reviewed"_s);
+        QVERIFY(!m_live->store.problem());
+        m_live->board.files[0].summary = u"Newer"_s;
+        post.open();
+        waitForEnd();
+        QCOMPARE(m_live->store.board(), m_live->board);
+    }
+
     void anUndoOutlivesNoSession()
     {
         m_live->store.setStatus(u"f"_s, u"reviewed"_s);

@@ -65,7 +65,8 @@ private Q_SLOTS:
         QTest::newRow("empty") << Title(u""_s) << u"Vexal report"_s;
         QTest::newRow("blank") << Title(u"  "_s) << u"Vexal report"_s;
         QTest::newRow("plain") << Title(u"PO 4711 · Fox cover"_s) << u"PO 4711 · Fox cover"_s;
-        QTest::newRow("slashes") << Title(u"../fox/moth"_s) << u"..-fox-moth"_s;
+        QTest::newRow("slashes") << Title(u"../fox/moth"_s) << u"-.-fox-moth"_s;
+        QTest::newRow("hidden") << Title(u".profile"_s) << u"-profile"_s;
         QTest::newRow("control characters") << Title(u"a\nb\tc\u007fd\u0085e"_s + QChar(0)) << u"a-b-c-d-e-"_s;
         QTest::newRow("two hundred bytes") << Title(QString(200, u'a')) << QString(200, u'a');
         QTest::newRow("more") << Title(QString(201, u'a')) << QString(200, u'a');

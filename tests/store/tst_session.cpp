@@ -52,6 +52,40 @@ private Q_SLOTS:
         QTRY_VERIFY(m_live->sleep.asleep());
     }
 
+    void aCredentialThatComesLateSignsIn()
+    {
+        m_live->client.credentials.forget();
+        m_live->store.resume();
+        QVERIFY(!m_live->store.signedIn());
+        m_live->client.credentials.store(u"token"_s, this, [] {});
+        QVERIFY(m_live->store.signedIn());
+        QTRY_VERIFY(m_live->sleep.asleep());
+        QCOMPARE(m_live->sleep.pauses.size(), 1);
+    }
+
+    void aUrlWaitsUntilItIsKnownWhetherSomebodyIsSignedIn()
+    {
+        SlowCredentials credentials;
+        SaidSleep sleep;
+        Surroundings around = m_live->surroundings(sleep);
+        SignIn signIn(m_live->client.api, m_live->client.preferences, credentials, m_live->browser, u"desk"_s);
+        Store store(m_live->clock.clock(), {.api = around.api,
+                                            .signIn = signIn,
+                                            .credentials = credentials,
+                                            .windows = around.windows,
+                                            .badge = around.badge,
+                                            .notifications = around.notifications,
+                                            .opener = around.opener,
+                                            .picker = around.picker,
+                                            .sleep = around.sleep});
+        store.resume();
+        store.openUrl(QUrl(u"vexal://signed-in"_s));
+        QVERIFY(!store.toast());
+        credentials.answer();
+        QVERIFY(store.signedIn());
+        QVERIFY(!store.toast());
+    }
+
     void aCredentialStoreIsWaitedFor()
     {
         SlowCredentials credentials;

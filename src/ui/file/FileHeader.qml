@@ -9,6 +9,8 @@ Item {
 
     required property FileState state
     readonly property fileHeader header: root.state.header
+    // In a narrow window the title needs the room more.
+    readonly property bool roomy: root.width >= 1000
 
     implicitHeight: 12 + 34 + 2 + facts.implicitHeight + 9 + links.height + 12
 
@@ -38,13 +40,23 @@ Item {
         anchors.rightMargin: 22
         anchors.verticalCenter: title.verticalCenter
         state: root.state
+        roomy: root.roomy
+    }
+    Label {
+        id: report
+        anchors.right: actions.right
+        anchors.verticalCenter: facts.verticalCenter
+        visible: !root.roomy
+        text: root.state.report.by
+        size: 11.5
+        color: Theme.secondary
     }
     Label {
         id: facts
         x: 22
         anchors.top: title.bottom
         anchors.topMargin: 2
-        width: root.width - 44
+        width: root.width - 44 - (report.visible ? report.implicitWidth + 14 : 0)
         text: root.header.facts
         size: 13
         color: Theme.secondary

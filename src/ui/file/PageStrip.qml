@@ -29,8 +29,20 @@ Rectangle {
         cacheBuffer: 240
         model: root.state.pages
 
+        // The list moves its own index as pages come and go: it is told anew each time.
+        function follow() {
+            currentIndex = root.state.page;
+        }
+        onCountChanged: follow()
+        Component.onCompleted: follow()
+        Connections {
+            target: root.state
+            function onPageChanged() {
+                list.follow();
+            }
+        }
+
         // The current page's neighbours stay in view as well, so that one sees where one goes.
-        currentIndex: root.state.page
         highlightRangeMode: ListView.ApplyRange
         preferredHighlightBegin: 60
         preferredHighlightEnd: width - 60

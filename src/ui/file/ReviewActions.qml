@@ -8,6 +8,8 @@ Row {
     id: root
 
     required property FileState state
+    /// There is room for all that is said of the report.
+    property bool roomy: true
     readonly property reportProgress report: root.state.report
 
     spacing: 7
@@ -23,7 +25,7 @@ Row {
     }
     Label {
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.report.report.length > 0
+        visible: root.roomy && root.report.report.length > 0
         text: root.report.by
         size: 11.5
         color: Theme.secondary

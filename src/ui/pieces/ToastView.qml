@@ -16,6 +16,8 @@ Item {
     signal undone(toastId: string)
     signal expired(toastId: string)
 
+    /// The most that a line of it may take; longer sentences wrap.
+    property int widest: 640
     readonly property int paddingX: 16
     readonly property int paddingY: 10
 
@@ -51,6 +53,9 @@ Item {
         Label {
             objectName: "text"
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(Math.ceil(implicitWidth), root.widest)
+            wrapMode: Text.Wrap
+            maximumLineCount: 6
             text: root.text
             color: Theme.toastText
             spoken: false

@@ -28,11 +28,6 @@ FocusScope {
         upright: true
         height: parent.height
     }
-    FileState {
-        id: file
-        store: Store
-        time: PassingTime
-    }
     UpdateBanner {
         id: update
         anchors.left: rule.right
@@ -81,5 +76,11 @@ FocusScope {
             text: "Loading the board…"
             color: Theme.secondary
         }
+    }
+    // It goes last, for the others speak of it.
+    FileState {
+        id: file
+        store: Store
+        time: PassingTime
     }
 }

@@ -37,7 +37,7 @@ Banner {
         anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, 0.7 * root.width)
-        text: root.problem
+        text: root.problem.replace(/\s+/g, " ")
         size: 12.5
         spoken: false
     }

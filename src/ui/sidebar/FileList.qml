@@ -35,7 +35,14 @@ FocusScope {
             if (row >= 0)
                 positionViewAtIndex(row, ListView.Contain);
         }
-        Component.onCompleted: Qt.callLater(showChosen)
+        property bool touched: false
+        onMovementStarted: touched = true
+        onHeightChanged: {
+            if (!touched) {
+                positionViewAtBeginning();
+                showChosen();
+            }
+        }
         Connections {
             target: root.state
             function onChosen() {
