@@ -16,6 +16,7 @@ LiveClient::LiveClient(const QUrl &server, const QString &token, Pace pace)
                 .browser = m_browser,
                 .opener = m_opener,
                 .badge = m_badge,
+                .notifications = m_notifications,
                 .picker = m_picker,
                 .device = u"Bench"_s,
                 .downloads = m_folder.path()})

@@ -7,6 +7,7 @@
 #include "filepreferences.h"
 #include "launcherbadge.h"
 #include "memorycredentialstore.h"
+#include "notifications.h"
 #include "systemnetworkpresence.h"
 #include "vexalapp.h"
 
@@ -20,6 +21,14 @@ class NoBadge : public LauncherBadge
 {
 public:
     void show(int) override {}
+};
+
+/// Tells nobody of anything.
+class NoNotifications : public Notifications
+{
+public:
+    void show(const QString &, const QString &) override {}
+    void withdraw() override {}
 };
 
 /// The whole client on a server, in this process, with nothing on the desktop but its window.
@@ -43,6 +52,7 @@ private:
     DesktopOpener m_opener;
     DemoSignIn m_browser;
     NoBadge m_badge;
+    NoNotifications m_notifications;
     DialogFilePicker m_picker;
     BoardClient m_client;
 

@@ -20,6 +20,7 @@ Surroundings BoardClient::surroundings()
             .credentials = m_desktop.credentials,
             .windows = m_windows,
             .badge = m_desktop.badge,
+            .notifications = m_desktop.notifications,
             .opener = m_desktop.opener,
             .picker = m_desktop.picker,
             .downloads = m_desktop.downloads,

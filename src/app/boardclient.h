@@ -17,6 +17,7 @@ struct Desktop
     Browser &browser;
     Opener &opener;
     LauncherBadge &badge;
+    Notifications &notifications;
     FilePicker &picker;
     QString device;    ///< What the server knows this computer by.
     QString downloads; ///< The folder that reports are saved in.

@@ -8,6 +8,8 @@
 #include "launcherbadge.h"
 #include "localboard.h"
 #include "memorycredentialstore.h"
+#include "notifications.h"
+#include "portallook.h"
 #include "samplefolder.h"
 #include "systemnetworkpresence.h"
 #include "typeface.h"
@@ -24,11 +26,18 @@ using namespace vexal;
 
 namespace {
 
-/// A demo counts nothing on anybody's desktop.
+// A demo counts and tells nothing on anybody's desktop.
 class NoBadge : public LauncherBadge
 {
 public:
     void show(int) override {}
+};
+
+class NoNotifications : public Notifications
+{
+public:
+    void show(const QString &, const QString &) override {}
+    void withdraw() override {}
 };
 
 int fail(const QString &why)
@@ -39,6 +48,7 @@ int fail(const QString &why)
 
 int demo(const QString &email, LocalBoard &board, const QDir &data, const std::optional<LaunchOptions> &options)
 {
+    const PortalLook look(QDBusConnection::sessionBus());
     FilePreferences preferences(data.filePath(u"Vexal.conf"_s), {u"-ServerURL"_s, board.url().toString()});
     MemoryCredentialStore credentials(board.signInAs(email));
     const SystemNetworkPresence network;
@@ -46,6 +56,7 @@ int demo(const QString &email, LocalBoard &board, const QDir &data, const std::o
     DemoSignIn browser(email, [&opened](const QUrl &url) { opened(url); });
     DesktopOpener opener;
     NoBadge badge;
+    NoNotifications notifications;
     DialogFilePicker picker;
     BoardClient client({.preferences = preferences,
                         .credentials = credentials,
@@ -53,14 +64,19 @@ int demo(const QString &email, LocalBoard &board, const QDir &data, const std::o
                         .browser = browser,
                         .opener = opener,
                         .badge = badge,
+                        .notifications = notifications,
                         .picker = picker,
                         .device = u"Demo"_s,
                         .downloads = data.filePath(u"downloads"_s)});
     VexalApp app({systemClock(), data.filePath(u"pictures"_s), client.fetch(), client.surroundings()});
     opened = [&app](const QUrl &url) { app.store().openUrl(url); };
     app.store().resume();
-    if (options)
+    if (options) {
         app.pose(*options);
+    } else {
+        app.follow(look);
+        app.keepPlace(data.filePath(u"Window.ini"_s));
+    }
     app.show();
     if (options)
         captureWhenSettled(options->shot);

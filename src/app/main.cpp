@@ -4,9 +4,11 @@
 #include "desktopopener.h"
 #include "dialogfilepicker.h"
 #include "filepreferences.h"
+#include "freedesktopnotifications.h"
 #include "hostname.h"
 #include "keyringcredentialstore.h"
 #include "locations.h"
+#include "portallook.h"
 #include "samplefolder.h"
 #include "singleinstance.h"
 #include "systemnetworkpresence.h"
@@ -18,6 +20,7 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
 using namespace vexal;
 
 namespace {
@@ -71,12 +74,14 @@ int live(QGuiApplication &application, const QStringList &arguments, const std::
         return 0;
 
     applyTypeface(application, options ? Typeface::Ours : Typeface::Desktops);
+    PortalLook look(bus);
     FilePreferences preferences(FilePreferences::defaultPath(), arguments);
     KeyringCredentialStore credentials(bus, id, preferences);
     const SystemNetworkPresence network;
     DesktopOpener opener;
     DefaultBrowser browser(opener);
     UnityLauncherBadge badge(bus, id);
+    FreedesktopNotifications notifications(bus, id);
     DialogFilePicker picker;
     BoardClient client({.preferences = preferences,
                         .credentials = credentials,
@@ -84,6 +89,7 @@ int live(QGuiApplication &application, const QStringList &arguments, const std::
                         .browser = browser,
                         .opener = opener,
                         .badge = badge,
+                        .notifications = notifications,
                         .picker = picker,
                         .device = hostName(),
                         .downloads = downloadsFolder()});
@@ -96,10 +102,15 @@ int live(QGuiApplication &application, const QStringList &arguments, const std::
     };
     QObject::connect(&instance, &SingleInstance::opened, &app.store(), open);
     QObject::connect(&instance, &SingleInstance::activated, &app.store(), [&app] { app.comeForward(); });
+    app.hear(notifications);
     app.store().resume();
-    if (options)
+    if (options) {
         app.pose(*options);
-    whenCredentialIsKnown(credentials, &app.store(), [&] {
+    } else {
+        app.follow(look);
+        app.keepPlace(stateFolder() + u"/Window.ini"_s);
+    }
+    whenKnown(credentials, look, &app.store(), [&] {
         app.show();
         if (options)
             captureWhenSettled(options->shot);

@@ -4,11 +4,15 @@
 #include "capture.h"
 #include "credentialstore.h"
 #include "deployment.h"
+#include "desktoplook.h"
+#include "following.h"
+#include "notifications.h"
 #include "remoteimage.h"
 #include "storeinqml.h"
 #include "typeface.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
@@ -21,16 +25,19 @@ namespace vexal {
 
 namespace {
 
-constexpr QSize standardSize(1500, 940);
-constexpr QSize smallestSize(1180, 720);
 constexpr int largestSide = 16384; ///< What a window system can hold, with room to spare.
 constexpr auto settlingTime = 3s;
-constexpr auto longestWaitForCredential = 300ms;
+constexpr auto longestWait = 300ms;
 
 QSize windowSize(QSizeF asked)
 {
     const auto side = [](qreal points) { return int(std::clamp<qreal>(points, 1, largestSide)); };
     return {side(asked.width()), side(asked.height())};
+}
+
+QSize roomOf(const QWindow &window)
+{
+    return window.screen()->availableSize();
 }
 
 } // namespace
@@ -45,8 +52,12 @@ VexalApp::VexalApp(Parts parts)
     giveImages(m_engine, m_images);
     m_window.setTitle(u"Vexal"_s);
     m_window.setResizeMode(QQuickView::SizeRootObjectToView);
-    m_window.setMinimumSize(smallestSize);
-    m_window.resize(standardSize);
+    m_window.setFlag(Qt::FramelessWindowHint);
+    m_window.setGeometry(frameOnScreen(std::nullopt, {m_window.screen()->availableGeometry()}));
+    const auto bound = [this] { m_window.setMinimumSize(leastSize(roomOf(m_window))); };
+    QObject::connect(&m_window, &QWindow::screenChanged, &m_window, bound);
+    bound();
+    followWindow(Appearance::of(m_engine), m_window);
 }
 
 VexalApp::~VexalApp() = default;
@@ -57,11 +68,32 @@ void VexalApp::pose(const LaunchOptions &options)
     appearance.setResting(true);
     appearance.setDark(options.dark);
     m_window.setFlag(Qt::BypassWindowManagerHint);
-    if (!options.size)
-        return;
-    const QSize size = windowSize(*options.size);
-    m_window.setMinimumSize(size.boundedTo(smallestSize));
+    const QSize size = options.size ? windowSize(*options.size) : standardSize;
+    m_window.setMinimumSize(leastSize(size));
     m_window.resize(size);
+}
+
+void VexalApp::follow(const DesktopLook &look)
+{
+    followLook(Appearance::of(m_engine), look);
+}
+
+void VexalApp::keepPlace(const QString &path)
+{
+    m_memory = std::make_unique<WindowMemory>(m_window, path);
+}
+
+void VexalApp::hear(Notifications &notifications)
+{
+    QObject::connect(&notifications, &Notifications::opened, m_store.get(), [this](const QString &fileId) {
+        if (m_store->findFile(fileId))
+            m_store->selectFile(fileId);
+        comeForward();
+    });
+    QObject::connect(&m_window, &QWindow::activeChanged, &notifications, [this, &notifications] {
+        if (m_window.isActive())
+            notifications.withdraw();
+    });
 }
 
 void VexalApp::showSample(Sample sample, const QString &folder)
@@ -84,9 +116,10 @@ void VexalApp::comeForward()
     m_window.requestActivate();
 }
 
-void whenCredentialIsKnown(CredentialStore &credentials, QObject *context, std::function<void()> then)
+void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context, std::function<void()> then)
 {
-    if (credentials.known())
+    const auto known = [&credentials, &look] { return credentials.known() && look.known(); };
+    if (known())
         return then();
     auto *wait = new QTimer(context);
     wait->setSingleShot(true);
@@ -94,8 +127,13 @@ void whenCredentialIsKnown(CredentialStore &credentials, QObject *context, std::
         wait->deleteLater();
         then();
     });
-    QObject::connect(&credentials, &CredentialStore::becameKnown, wait, [wait] { wait->start(0); });
-    wait->start(longestWaitForCredential);
+    const auto goOn = [wait, known] {
+        if (known())
+            wait->start(0);
+    };
+    QObject::connect(&credentials, &CredentialStore::becameKnown, wait, goOn);
+    QObject::connect(&look, &DesktopLook::becameKnown, wait, goOn);
+    wait->start(longestWait);
 }
 
 void prepareProcess()

@@ -5,6 +5,7 @@
 #include "launchoptions.h"
 #include "store.h"
 #include "surroundings.h"
+#include "windowmemory.h"
 
 #include <QQmlEngine>
 #include <QQuickView>
@@ -13,6 +14,9 @@
 #include <optional>
 
 namespace vexal {
+
+class DesktopLook;
+class Notifications;
 
 /// What a run of the program is made of: real parts in the client, others in the demo and in tests.
 struct Parts
@@ -37,6 +41,12 @@ public:
     /// Makes what a photograph shows the same each time: the program's own typeface, nothing that moves, the asked size
     /// and appearance, out of reach of a window manager.
     void pose(const LaunchOptions &options);
+    /// Follows the desktop's look from now on.
+    void follow(const DesktopLook &look);
+    /// Brings the window back to the place that the file at the path holds, and keeps it there.
+    void keepPlace(const QString &path);
+    /// Opens what the person clicks on in a notification, and takes it back when they look at the window.
+    void hear(Notifications &notifications);
     /// Puts a sample board and its pictures in the place of a server's.
     void showSample(Sample sample, const QString &folder);
     /// Opens the window.
@@ -49,11 +59,12 @@ private:
     Images m_images;
     QQmlEngine m_engine;
     QQuickView m_window;
+    std::unique_ptr<WindowMemory> m_memory; ///< None: the window stands where it is put.
 };
 
-/// Lets `then` wait for the credential store's answer, but not for long: the first frame must neither be late nor show
-/// the sign-in screen to someone who is signed in.
-void whenCredentialIsKnown(CredentialStore &credentials, QObject *context, std::function<void()> then);
+/// Lets `then` wait for the answers of the credential store and of the desktop, but not for long: the first frame must
+/// neither be late, nor show the sign-in screen to someone who is signed in, nor light to someone who wants dark.
+void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context, std::function<void()> then);
 
 /// What has to be said to Qt before the application object is made.
 void prepareProcess();

@@ -1,5 +1,6 @@
 #include "locations.h"
 
+#include <QDir>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,13 @@ QString picturesFolder()
 QString downloadsFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+}
+
+// This Qt has no name for it yet. A folder that is not absolute counts as not given.
+QString stateFolder()
+{
+    const QString given = qEnvironmentVariable("XDG_STATE_HOME");
+    return (QDir::isAbsolutePath(given) ? given : QDir::homePath() + u"/.local/state"_s) + u"/Vexal"_s;
 }
 
 } // namespace vexal

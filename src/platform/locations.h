@@ -10,4 +10,7 @@ QString picturesFolder();
 /// The folder of the person's downloads. It may not exist yet.
 QString downloadsFolder();
 
+/// The folder of what the program remembers of its own use: "Vexal" in the person's state folder. It may not exist yet.
+QString stateFolder();
+
 } // namespace vexal

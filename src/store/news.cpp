@@ -41,8 +41,10 @@ News newsOf(const BoardState &board, qint64 seenEvent, const QDateTime &started)
         return event.id > seenEvent && event.by != board.me.email && event.at > double(started.toMSecsSinceEpoch());
     };
     const auto first = std::find_if(board.events.cbegin(), board.events.cend(), isNew);
-    if (first != board.events.cend())
+    if (first != board.events.cend()) {
         news.toast = told(*first, board.users);
+        news.fileId = first->file_id.value_or(QString());
+    }
     return news;
 }
 

@@ -11,6 +11,7 @@ struct News
 {
     qint64 seenEvent = 0;         ///< The highest event id accounted for from now on.
     std::optional<QString> toast; ///< What other people or the worker machine did; none when nobody did anything new.
+    QString fileId = {};          ///< The file that it is about; empty for none.
 
     bool operator==(const News &) const = default;
 };

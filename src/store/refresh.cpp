@@ -3,6 +3,7 @@
 #include "document.h"
 #include "launcherbadge.h"
 #include "news.h"
+#include "notifications.h"
 #include "refreshloop.h"
 #include "surroundings.h"
 #include "windowpresence.h"
@@ -83,9 +84,17 @@ void Store::boardArrived(BoardState board, const std::optional<QString> &tag, qu
     const News news = newsOf(board, m_seenEvent, m_started);
     m_seenEvent = news.seenEvent;
     if (news.toast)
-        showToast(*news.toast);
+        tell(news);
     takeBoard(std::move(board));
     m_etag = tag;
+}
+
+/// Someone who does not look at the window hears of it from the desktop too.
+void Store::tell(const News &news)
+{
+    showToast(*news.toast);
+    if (!m_world->windows.seen())
+        m_world->notifications.show(*news.toast, news.fileId);
 }
 
 void Store::boardFailed(const Failure &failure)

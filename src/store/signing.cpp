@@ -1,6 +1,7 @@
 #include "api.h"
 #include "change.h"
 #include "launcherbadge.h"
+#include "notifications.h"
 #include "signin.h"
 #include "surroundings.h"
 
@@ -117,6 +118,7 @@ void Store::clearSession()
     m_writing.clear();
     m_held.clear();
     m_world->badge.show(0);
+    m_world->notifications.withdraw();
 }
 
 } // namespace vexal

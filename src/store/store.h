@@ -17,6 +17,7 @@
 namespace vexal {
 
 struct Failure;
+struct News;
 struct Place;
 struct Request;
 struct Response;
@@ -308,6 +309,7 @@ private:
     // What arrives.
     void boardAnswered(const Response &answer, quint64 asked, const Hold &until);
     void boardArrived(BoardState board, const std::optional<QString> &tag, quint64 asked);
+    void tell(const News &news);
     void boardFailed(const Failure &failure);
     void fetchDetail(const QString &fileId, QObject *context, const Hold &until);
     void detailAnswered(const QString &fileId, const Response &answer, quint64 asked);

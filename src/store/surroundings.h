@@ -10,6 +10,7 @@ class API;
 class CredentialStore;
 class FilePicker;
 class LauncherBadge;
+class Notifications;
 class Opener;
 class SignIn;
 class WindowPresence;
@@ -22,6 +23,7 @@ struct Surroundings
     CredentialStore &credentials;
     const WindowPresence &windows;
     LauncherBadge &badge;
+    Notifications &notifications;
     Opener &opener;
     FilePicker &picker;
     QString downloads; ///< The folder that reports are saved in.

@@ -207,6 +207,7 @@ void HardshipsTest::picturesThatFindNoRoomAreShown()
     };
     WAIT_FOR(coloursIn(page()) > 200);
     QCOMPARE(vexal->names(u"alert message"_s), QStringList());
+    QCOMPARE(vexal->names(u"notification"_s), QStringList());
     QCOMPARE(QDir(onDesk(u"cache/Vexal/img"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"filling"_s});
 }
 

@@ -59,7 +59,8 @@ bool VexalProcess::says(const QString &sentence) const
 {
     const auto program = m_desk.program(id());
     return program && program->find([&](const Accessible &candidate) {
-        return candidate.role() == "alert message"_L1 && candidate.name().contains(sentence);
+        const QString role = candidate.role(); // a banner, or a toast
+        return (role == "alert message"_L1 || role == "notification"_L1) && candidate.name().contains(sentence);
     });
 }
 

@@ -70,6 +70,13 @@ private Q_SLOTS:
         QCOMPARE(newsOf(boardWith(events), 5, began), (News{8, u"Bea Moss: b"_s}));
     }
 
+    void theFileThatItIsAboutIsNamed()
+    {
+        Event event = anEvent(2, bea, u"comment"_s, u"Look"_s);
+        event.file_id = u"f"_s;
+        QCOMPARE(newsOf(boardWith({event}), 1, began), (News{2, u"Bea Moss: Look"_s, u"f"_s}));
+    }
+
     void whatOneDidOneselfIsNoNews()
     {
         const auto events = QList{anEvent(2, u"ada@lanternhouse.example"_s, u"status"_s, u"reviewed"_s)};

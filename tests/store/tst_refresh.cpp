@@ -270,6 +270,44 @@ private Q_SLOTS:
         QCOMPARE(live.toast(), u"bea@lanternhouse.example: Look"_s);
     }
 
+    void someoneWhoLooksElsewhereHearsItFromTheDesktop()
+    {
+        LiveStore live;
+        live.board.events = {anEvent(4, live)};
+        live.begin();
+        QCOMPARE(live.notifications.told, QStringList());
+        Event event = anEvent(5, live);
+        event.file_id = u"f"_s;
+        live.board.events.prepend(event);
+        live.round();
+        QCOMPARE(live.notifications.told, QStringList{u"bea@lanternhouse.example: Look > f"_s});
+        QCOMPARE(live.toast(), u"bea@lanternhouse.example: Look"_s);
+    }
+
+    void someoneWhoLooksAtTheWindowHearsItThereAlone()
+    {
+        LiveStore live;
+        live.board.events = {anEvent(4, live)};
+        live.windows.isSeen = true;
+        live.begin();
+        live.board.events.prepend(anEvent(5, live));
+        live.round();
+        QCOMPARE(live.toast(), u"bea@lanternhouse.example: Look"_s);
+        QCOMPARE(live.notifications.told, QStringList());
+    }
+
+    void whatWasToldGoesWithTheSession()
+    {
+        LiveStore live;
+        live.board.events = {anEvent(4, live)};
+        live.begin();
+        live.board.events.prepend(anEvent(5, live));
+        live.round();
+        QCOMPARE(live.notifications.told.size(), 1);
+        live.store.signOut();
+        QCOMPARE(live.notifications.told, QStringList());
+    }
+
     void severalSelectedFilesAreNotFetched()
     {
         LiveStore live(aBoard({aFile(u"a"_s), aFile(u"b"_s)}));

@@ -74,6 +74,7 @@ private Q_SLOTS:
                                             .credentials = credentials,
                                             .windows = around.windows,
                                             .badge = around.badge,
+                                            .notifications = around.notifications,
                                             .opener = around.opener,
                                             .picker = around.picker,
                                             .sleep = around.sleep});
@@ -95,6 +96,7 @@ private Q_SLOTS:
                                             .credentials = credentials,
                                             .windows = around.windows,
                                             .badge = around.badge,
+                                            .notifications = around.notifications,
                                             .opener = around.opener,
                                             .picker = around.picker,
                                             .sleep = around.sleep});

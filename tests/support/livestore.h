@@ -5,6 +5,7 @@
 #include "encode.h"
 #include "filepicker.h"
 #include "launcherbadge.h"
+#include "notifications.h"
 #include "opener.h"
 #include "signin.h"
 #include "store.h"
@@ -42,6 +43,18 @@ class ToldBadge : public LauncherBadge
 public:
     void show(int count) override { shown.append(count); }
     QList<int> shown;
+};
+
+/// Notifications that remember what they were told, newest last, until it is taken back.
+class ToldNotifications : public Notifications
+{
+public:
+    void show(const QString &text, const QString &fileId) override
+    {
+        told.append(text + QStringLiteral(" > ") + fileId);
+    }
+    void withdraw() override { told.clear(); }
+    QStringList told;
 };
 
 /// Opens nothing, and remembers what it should have opened.
@@ -176,6 +189,7 @@ public:
     TestClock clock;
     SaidWindows windows;
     ToldBadge badge;
+    ToldNotifications notifications;
     ToldOpener opener;
     SaidPicker picker;
     SaidSleep sleep;
@@ -191,6 +205,7 @@ public:
                 .credentials = client.credentials,
                 .windows = windows,
                 .badge = badge,
+                .notifications = notifications,
                 .opener = opener,
                 .picker = picker,
                 .downloads = downloads.path(),

@@ -17,7 +17,6 @@ Overlay {
     signal chosen(index: int)
 
     readonly property int margin: 8
-    readonly property int rowHeight: 28
     property real rowWidth: 112
 
     Accessible.role: Accessible.PopupMenu
@@ -73,18 +72,10 @@ Overlay {
                     id: row
                     required property string modelData
                     required property int index
-                    readonly property bool current: row.index === root.current
                     readonly property int above: row.index === root.ruled ? 9 : 0
 
-                    objectName: "choice" + row.index
                     width: root.rowWidth
-                    height: root.rowHeight + row.above
-
-                    Accessible.role: Accessible.MenuItem
-                    Accessible.name: row.modelData
-                    Accessible.focusable: true
-                    Accessible.focused: row.current
-                    Accessible.onPressAction: root.choose(row.index)
+                    height: choice.height + row.above
 
                     Rule {
                         visible: row.above > 0
@@ -92,28 +83,18 @@ Overlay {
                         y: 4
                         width: parent.width - 20
                     }
-                    Rectangle {
-                        anchors.fill: parent
-                        anchors.topMargin: row.above
-                        radius: 6
-                        color: row.current ? Theme.pressed : "transparent"
-                    }
-                    Label {
-                        id: words
-                        y: row.above + (root.rowHeight - height) / 2
-                        x: 10
-                        text: row.modelData
-                        size: 13
-                        onImplicitWidthChanged: root.rowWidth = Math.max(root.rowWidth, implicitWidth + 20)
-                        color: row.index === root.destructive ? Theme.issue.ink : Theme.text
-                        spoken: false
-                    }
-                    HoverHandler {
-                        onHoveredChanged: root.current = hovered ? row.index : -1
-                    }
-                    TapHandler {
-                        gesturePolicy: TapHandler.ReleaseWithinBounds
-                        onTapped: root.choose(row.index)
+                    MenuRow {
+                        id: choice
+                        objectName: "choice" + row.index
+                        y: row.above
+                        width: parent.width
+                        title: row.modelData
+                        destructive: row.index === root.destructive
+                        current: row.index === root.current
+                        onLeastChanged: root.rowWidth = Math.max(root.rowWidth, least)
+                        onPointed: root.current = row.index
+                        onUnpointed: root.current = -1
+                        onChosen: root.choose(row.index)
                     }
                 }
             }

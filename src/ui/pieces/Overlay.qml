@@ -46,6 +46,11 @@ FocusScope {
         }
     }
 
+    // The key that closes things closes what lies on top.
+    OnAction {
+        action: root.open ? Actions.close : null
+        onTriggered: root.dismissed()
+    }
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true

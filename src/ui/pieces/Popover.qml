@@ -58,6 +58,10 @@ FocusScope {
         }
     }
 
+    OnAction {
+        action: root.open ? Actions.close : null
+        onTriggered: root.dismissed()
+    }
     // Above everything, it sees each press first; what is not meant for the opener goes on to where it was aimed.
     MouseArea {
         parent: root.Window.contentItem

@@ -7,6 +7,8 @@ QtObject {
     id: root
 
     readonly property bool dark: Appearance.dark
+    /// Writing of second rank and lines are one step stronger.
+    readonly property bool contrast: Appearance.contrast
     /// Time stands still: nothing moves by itself.
     readonly property bool resting: Appearance.resting
     readonly property bool reducedMotion: Appearance.reducedMotion
@@ -17,10 +19,10 @@ QtObject {
 
     // Writing.
     readonly property color text: Appearance.colour(Role.Text, dark)
-    readonly property color secondary: Appearance.colour(Role.Secondary, dark)
-    readonly property color tertiary: Appearance.colour(Role.Tertiary, dark)
-    readonly property color faint: Appearance.colour(Role.Faint, dark)
-    readonly property color chosenText: Appearance.colour(Role.Chosen, dark)
+    readonly property color secondary: Appearance.colour(contrast ? Role.Text : Role.Secondary, dark)
+    readonly property color tertiary: Appearance.colour(contrast ? Role.Secondary : Role.Tertiary, dark)
+    readonly property color faint: Appearance.colour(contrast ? Role.Tertiary : Role.Faint, dark)
+    readonly property color chosenText: Appearance.colour(contrast ? Role.Text : Role.Chosen, dark)
     readonly property color onSolid: Appearance.colour(Role.OnSolid, dark)
 
     // Grounds.
@@ -32,12 +34,15 @@ QtObject {
 
     // Lines.
     readonly property color line: Appearance.colour(Role.Line, dark)
-    readonly property color hair: Appearance.colour(Role.Hair, dark)
-    readonly property color hair2: Appearance.colour(Role.Hair2, dark)
+    readonly property color hair: Appearance.colour(contrast ? Role.Faint : Role.Hair, dark)
+    readonly property color hair2: Appearance.colour(contrast ? Role.Tertiary : Role.Hair2, dark)
 
     // What lies over a ground.
     readonly property color hover: Appearance.colour(Role.Hover, dark)
     readonly property color pressed: Appearance.colour(Role.Pressed, dark)
+    /// The ground of a window button, under the pointer and pressed.
+    readonly property color windowButtonNear: Qt.rgba(text.r, text.g, text.b, 0.18)
+    readonly property color windowButtonPressed: Qt.rgba(text.r, text.g, text.b, 0.26)
     readonly property color track: Appearance.colour(Role.Track, dark)
     readonly property color segment: Appearance.colour(Role.Segment, dark)
 

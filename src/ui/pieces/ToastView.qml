@@ -24,7 +24,7 @@ Item {
     implicitWidth: Math.ceil(row.implicitWidth) + 2 * root.paddingX
     implicitHeight: Math.ceil(row.implicitHeight) + 2 * root.paddingY
 
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.Notification
     Accessible.name: root.text
 
     onToastIdChanged: {

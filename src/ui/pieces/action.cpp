@@ -1,13 +1,15 @@
 #include "action.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexal {
 
-Action::Action(const QString &name, const QStringList &sequences, QObject *parent)
+Action::Action(const QString &name, const QStringList &sequences, const QString &section, QObject *parent)
     : QObject(parent)
     , m_name(name)
     , m_sequences(sequences)
+    , m_section(section)
 {
 }
 
@@ -28,6 +30,7 @@ void Action::add(OnAction *place)
 {
     m_places.append(place);
     connect(place, &OnAction::enabledChanged, this, &Action::update);
+    connect(place, &OnAction::checkedChanged, this, &Action::update);
     update();
 }
 
@@ -40,11 +43,12 @@ void Action::remove(OnAction *place)
 
 void Action::update()
 {
-    const bool enabled = answering();
-    if (m_enabled == enabled)
-        return;
-    m_enabled = enabled;
-    Q_EMIT enabledChanged();
+    const OnAction *place = answering();
+    const bool checked = place && place->checked();
+    if (std::exchange(m_enabled, bool(place)) != bool(place))
+        Q_EMIT enabledChanged();
+    if (std::exchange(m_checked, checked) != checked)
+        Q_EMIT checkedChanged();
 }
 
 OnAction::OnAction(QObject *parent)
@@ -76,6 +80,14 @@ void OnAction::setEnabled(bool enabled)
         return;
     m_enabled = enabled;
     Q_EMIT enabledChanged();
+}
+
+void OnAction::setChecked(bool checked)
+{
+    if (m_checked == checked)
+        return;
+    m_checked = checked;
+    Q_EMIT checkedChanged();
 }
 
 } // namespace vexal

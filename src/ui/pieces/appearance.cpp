@@ -26,6 +26,14 @@ void Appearance::setDark(bool dark)
     Q_EMIT darkChanged();
 }
 
+void Appearance::setContrast(bool contrast)
+{
+    if (m_contrast == contrast)
+        return;
+    m_contrast = contrast;
+    Q_EMIT contrastChanged();
+}
+
 void Appearance::setResting(bool resting)
 {
     if (m_resting == resting)

@@ -21,6 +21,7 @@ class Appearance : public QObject
     Q_PROPERTY(bool resting READ resting WRITE setResting NOTIFY restingChanged)
     Q_PROPERTY(bool seen READ seen WRITE setSeen NOTIFY seenChanged)
     Q_PROPERTY(QEasingCurve curve READ curve CONSTANT)
+    Q_PROPERTY(bool contrast READ contrast WRITE setContrast NOTIFY contrastChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
 
 public:
@@ -33,6 +34,10 @@ public:
     /// The dark appearance.
     bool dark() const { return m_dark; }
     void setDark(bool dark);
+
+    /// The person asked for more contrast: lines and writing of second rank are stronger.
+    bool contrast() const { return m_contrast; }
+    void setContrast(bool contrast);
 
     /// Time stands still: nothing moves by itself and every change is at its end at once, so that two photographs of
     /// the same board are the same bytes.
@@ -58,6 +63,7 @@ public:
 
 Q_SIGNALS:
     void darkChanged();
+    void contrastChanged();
     void restingChanged();
     void seenChanged();
     void reducedMotionChanged();
@@ -67,6 +73,7 @@ private:
     explicit Appearance(QQmlEngine &engine);
 
     bool m_dark = false;
+    bool m_contrast = false;
     bool m_resting = false;
     bool m_seen = true;
     bool m_reducedMotion = false;

@@ -16,6 +16,12 @@ FocusScope {
         width: 288
         height: parent.height
     }
+    AppMenu {
+        id: menu
+        opener: sidebar.menuButton
+        onAsked: menu.open = true
+        onDismissed: menu.open = false
+    }
     Rule {
         id: rule
         anchors.left: sidebar.right

@@ -7,6 +7,18 @@ import Vexal.Root
 FocusScope {
     id: root
 
+    /// How far down the window can be taken by the pointer: to the foot of the sidebar's header.
+    readonly property int header: 78
+
+    /// Fills the screen with the window, or gives it back its own size.
+    function zoom() {
+        const window = root.Window.window;
+        if (window.visibility === Window.Windowed)
+            window.showMaximized();
+        else
+            window.showNormal();
+    }
+
     RootState {
         id: board
         store: Store
@@ -14,6 +26,13 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Theme.window
+    }
+    // Behind what can be pressed: the empty places of the header are the window's handle.
+    WindowHandle {
+        objectName: "header"
+        width: parent.width
+        height: root.header
+        onDoubleClicked: root.zoom()
     }
     When {
         active: !Store.signedIn
@@ -30,6 +49,15 @@ FocusScope {
         }
     }
     When {
+        active: !Store.signedIn
+        AppMenu {
+            id: plainMenu
+            opener: buttons
+            onAsked: plainMenu.open = true
+            onDismissed: plainMenu.open = false
+        }
+    }
+    When {
         active: Store.signedIn
         BoardView {
             anchors.fill: parent
@@ -43,6 +71,20 @@ FocusScope {
         anchors.bottomMargin: 22
         state: board
     }
+    WindowEdges {}
+    WindowButtons {
+        id: buttons
+        onZoomRequested: root.zoom()
+    }
     ActionKeys {}
+    AppActions {
+        state: board
+        onAboutRequested: about.open = true
+    }
+    About {
+        id: about
+        opener: root
+        onDismissed: about.open = false
+    }
     HintLayer {}
 }

@@ -14,6 +14,7 @@ Item {
     When {
         active: root.state.toastId.length > 0
         ToastView {
+            id: toast
             anchors.horizontalCenter: root.horizontalCenter
             anchors.bottom: root.bottom
             toastId: root.state.toastId
@@ -21,6 +22,18 @@ Item {
             undoLabel: root.state.undoLabel
             onUndone: root.state.undoToast()
             onExpired: id => root.state.clearToast(id)
+
+            // One that comes is read out by itself; one that takes another's place has to be told of, once all of it is
+            // there.
+            property bool standing: false
+            Component.onCompleted: toast.standing = true
+            onToastIdChanged: {
+                if (toast.standing)
+                    Qt.callLater(toast.announce);
+            }
+            function announce() {
+                root.state.announce(toast);
+            }
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "deployment.h"
 #include "links.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 
@@ -57,6 +58,12 @@ QString RootState::emptyLine() const
 void RootState::clearToast(const QString &id)
 {
     m_store->clearToast(QUuid(id));
+}
+
+void RootState::announce(QQuickItem *item)
+{
+    QAccessibleEvent shown(item, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
 }
 
 void RootState::undoToast()

@@ -2,6 +2,7 @@
 
 #include "store.h"
 
+#include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
 namespace vexal {
@@ -47,6 +48,8 @@ public:
     QString undoLabel() const { return m_toast.undoLabel.value_or(QString()); }
     /// Takes the toast of that id away; a younger one stays.
     Q_INVOKABLE void clearToast(const QString &id);
+    /// Tells assistive technology that the item shows anew, so that it is read out.
+    Q_INVOKABLE static void announce(QQuickItem *item);
     /// Does what the toast's button promises.
     Q_INVOKABLE void undoToast();
 

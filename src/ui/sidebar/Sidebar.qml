@@ -7,6 +7,9 @@ import Vexal.Sidebar
 Rectangle {
     id: root
 
+    /// The button that opens the program's menu.
+    readonly property alias menuButton: menu
+
     color: Theme.sidebar
     // The activity list reaches over what stands beside the column.
     z: 1
@@ -46,6 +49,17 @@ Rectangle {
             text: "Vexal"
             size: 21
             weight: Font.DemiBold
+        }
+        IconButton {
+            id: menu
+            anchors.left: name.right
+            anchors.leftMargin: 5
+            anchors.verticalCenter: name.verticalCenter
+            icon: "line.3.horizontal"
+            size: 15
+            help: "Menu"
+            open: Actions.menu.checked
+            onClicked: Actions.menu.trigger()
         }
         IconButton {
             id: refresh

@@ -83,7 +83,7 @@ TestCase {
         const text = findChild(piece, "text");
         compare(piece.implicitWidth, Math.ceil(text.implicitWidth) + 32);
         compare(piece.implicitHeight, Math.ceil(text.implicitHeight) + 20);
-        compare(piece.Accessible.role, Accessible.AlertMessage);
+        compare(piece.Accessible.role, Accessible.Notification);
         compare(piece.Accessible.name, "Marked a real issue.");
     }
 }

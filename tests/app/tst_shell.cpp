@@ -1,0 +1,184 @@
+#include "appearance.h"
+#include "desktoplook.h"
+#include "livestore.h"
+#include "vexalapp.h"
+
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace vexal;
+
+namespace {
+
+/// A desktop whose look is as the test says.
+class SaidLook : public DesktopLook
+{
+public:
+    bool known() const override { return isKnown; }
+    Look look() const override { return m_look; }
+    void answer()
+    {
+        isKnown = true;
+        Q_EMIT becameKnown();
+    }
+    void say(const Look &look)
+    {
+        m_look = look;
+        Q_EMIT changed();
+    }
+    bool isKnown = false;
+
+private:
+    Look m_look;
+};
+
+} // namespace
+
+/// The one window, as the program opens it.
+class ShellTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_live = std::make_unique<LiveStore>(aBoard({aFile(u"a"_s), aFile(u"b"_s)}));
+        m_app =
+            std::make_unique<VexalApp>(Parts{m_live->clock.clock(), QString(), nothing, m_live->surroundings(m_sleep)});
+    }
+    void cleanup()
+    {
+        m_app.reset();
+        m_live.reset();
+    }
+
+    void itIsTitledVexalAndNothingMore();
+    void itHasNoFrameButItsOwn();
+    void itIsNoSmallerThanTheBoardNeeds();
+    void itLooksAsTheDesktopWantsItLive();
+    void whatCannotBeSeenDoesNotMove();
+    void aPhotographIsAsLargeAsWasAsked();
+    void aClickOnANotificationOpensItsFile();
+    void aNotificationOfAFileThatIsGoneOpensTheWindowAlone();
+    void lookingAtTheWindowTakesTheNotificationBack();
+    void theFirstFrameWaitsForTheDesktopsAnswer();
+    void theFirstFrameDoesNotWaitForLong();
+
+private:
+    static void nothing(const QString &, QObject *, const Images::Fetched &fetched) { fetched(std::nullopt); }
+    Appearance &appearance() { return Appearance::of(*m_app->window().engine()); }
+    void open()
+    {
+        m_app->show();
+        m_app->comeForward();
+        QVERIFY(QTest::qWaitForWindowActive(&m_app->window()));
+    }
+
+    std::unique_ptr<LiveStore> m_live;
+    SaidSleep m_sleep;
+    std::unique_ptr<VexalApp> m_app;
+};
+
+void ShellTest::itIsTitledVexalAndNothingMore()
+{
+    open();
+    QCOMPARE(m_app->window().title(), u"Vexal"_s);
+    QCOMPARE(QGuiApplication::topLevelWindows().size(), 1);
+}
+
+void ShellTest::itHasNoFrameButItsOwn()
+{
+    QVERIFY(m_app->window().flags().testFlag(Qt::FramelessWindowHint));
+}
+
+void ShellTest::itIsNoSmallerThanTheBoardNeeds()
+{
+    QCOMPARE(m_app->window().minimumSize(), leastSize(m_app->window().screen()->availableSize()));
+}
+
+void ShellTest::itLooksAsTheDesktopWantsItLive()
+{
+    SaidLook look;
+    look.say({.dark = true, .contrast = true});
+    m_app->follow(look);
+    QVERIFY(appearance().dark());
+    QVERIFY(appearance().contrast());
+    QVERIFY(!appearance().reducedMotion());
+    look.say({.reducedMotion = true});
+    QVERIFY(!appearance().dark());
+    QVERIFY(!appearance().contrast());
+    QVERIFY(appearance().reducedMotion());
+}
+
+void ShellTest::whatCannotBeSeenDoesNotMove()
+{
+    open();
+    QTRY_VERIFY(appearance().seen());
+    m_app->window().hide();
+    QTRY_VERIFY(!appearance().seen());
+    m_app->window().show();
+    QTRY_VERIFY(appearance().seen());
+}
+
+void ShellTest::aPhotographIsAsLargeAsWasAsked()
+{
+    m_app->pose({.shot = u"unused"_s, .size = QSizeF(900, 600)});
+    m_app->show();
+    QVERIFY(QTest::qWaitForWindowExposed(&m_app->window()));
+    QCOMPARE(m_app->window().size(), QSize(900, 600));
+}
+
+void ShellTest::aClickOnANotificationOpensItsFile()
+{
+    m_app->hear(m_live->notifications);
+    m_app->store().takeBoard(m_live->board);
+    Q_EMIT m_live->notifications.opened(u"b"_s);
+    QCOMPARE(m_app->store().selection(), QSet{u"b"_s});
+}
+
+void ShellTest::aNotificationOfAFileThatIsGoneOpensTheWindowAlone()
+{
+    m_app->hear(m_live->notifications);
+    m_app->store().takeBoard(m_live->board);
+    open();
+    m_app->window().showMinimized();
+    Q_EMIT m_live->notifications.opened(u"gone"_s);
+    QCOMPARE(m_app->store().selection(), QSet{u"a"_s});
+    QVERIFY(!m_app->window().windowStates().testFlag(Qt::WindowMinimized));
+}
+
+void ShellTest::lookingAtTheWindowTakesTheNotificationBack()
+{
+    m_app->hear(m_live->notifications);
+    m_live->notifications.show(u"Look"_s, u"a"_s);
+    open();
+    QTRY_COMPARE(m_live->notifications.told, QStringList());
+}
+
+void ShellTest::theFirstFrameWaitsForTheDesktopsAnswer()
+{
+    SaidLook look;
+    QObject context;
+    bool open = false;
+    whenKnown(m_live->client.credentials, look, &context, [&open] { open = true; });
+    QVERIFY(!open);
+    look.answer();
+    QTRY_VERIFY_WITH_TIMEOUT(open, 250); // sooner than it would without an answer
+    bool again = false;
+    whenKnown(m_live->client.credentials, look, &context, [&again] { again = true; });
+    QVERIFY(again);
+}
+
+void ShellTest::theFirstFrameDoesNotWaitForLong()
+{
+    SaidLook look;
+    QObject context;
+    bool open = false;
+    whenKnown(m_live->client.credentials, look, &context, [&open] { open = true; });
+    QTRY_VERIFY(open);
+}
+
+QTEST_MAIN(ShellTest)
+#include "tst_shell.moc"
