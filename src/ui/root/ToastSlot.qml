@@ -23,16 +23,13 @@ Item {
             onUndone: root.state.undoToast()
             onExpired: id => root.state.clearToast(id)
 
-            // One that comes is read out by itself; one that takes another's place has to be told of, once all of it is
-            // there.
-            property bool standing: false
-            Component.onCompleted: toast.standing = true
-            onToastIdChanged: {
-                if (toast.standing)
-                    Qt.callLater(toast.announce);
-            }
-            function announce() {
-                root.state.announce(toast);
+            // One that comes is read out by itself; one that takes another's place has to be told of.
+            Connections {
+                target: root.state
+                function onToastChanged() {
+                    if (root.state.toastId.length > 0)
+                        root.state.announce(toast);
+                }
             }
         }
     }
