@@ -46,7 +46,7 @@ FocusScope {
         Connections {
             target: root.state
             function onChosen() {
-                Qt.callLater(list.showChosen);
+                list.showChosen();
             }
         }
 
