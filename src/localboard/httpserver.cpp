@@ -1,6 +1,7 @@
 #include "httpserver.h"
 
 #include "connectionthreads.h"
+#include "loopback.h"
 
 #include <algorithm>
 #include <charconv>
@@ -32,6 +33,8 @@ std::string_view sentenceFor(int status)
         return "That address is too long.";
     case 415:
         return "The board takes plain bodies only, neither packed nor in parts.";
+    case 421:
+        return "This board answers to this computer's own name only.";
     case 431:
         return "That request has too many headers.";
     default:
@@ -48,6 +51,13 @@ std::optional<std::size_t> announcedLength(const httplib::Request &request)
     const bool whole = error == std::errc() && end == text.data() + text.size();
     const bool once = request.get_header_value_count("Content-Length") == 1;
     return whole && once && !request.has_header("Transfer-Encoding") ? std::optional(length) : std::nullopt;
+}
+
+/// Whether the request is for this machine by one of its own names. A page from elsewhere can have its name lead here,
+/// and would then be let read what this server answers; but it cannot have its browser send another name than its own.
+bool namesThisMachine(const httplib::Request &request)
+{
+    return request.get_header_value_count("Host") == 1 && isLoopback(hostIn(request.get_header_value("Host")));
 }
 
 /// Leaves of a request what this server does: whole answers, as they are.
@@ -97,6 +107,7 @@ bool HttpServer::open(const std::string &host, int port)
         m_port = bind_to_port(host, port) ? port : 0;
     else
         m_port = std::max(bind_to_any_port(host), 0);
+    m_onLoopback = isLoopback(host);
     if (m_port == 0)
         return false;
     ::listen(svr_sock_, waitingConnections); // httplib lets five wait; the sixth would lose a second
@@ -178,7 +189,9 @@ bool HttpServer::answerOne(Connection &connection)
 HttpServer::HandlerResponse HttpServer::refuseUnread(const httplib::Request &request, httplib::Response &response) const
 {
     const auto length = announcedLength(request);
-    if (request.target.size() > m_bounds.targetBytes)
+    if (m_onLoopback && !namesThisMachine(request))
+        response.status = 421;
+    else if (request.target.size() > m_bounds.targetBytes)
         response.status = 414;
     else if (request.has_header("Transfer-Encoding"))
         response.status = 411;

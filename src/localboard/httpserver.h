@@ -30,7 +30,8 @@ public:
     HttpServer &operator=(const HttpServer &) = delete;
 
     /// Serves \a port (0: any) of \a host from now on, on threads of its own; false when the address cannot be had.
-    /// Handlers must be in place. An HttpServer opens once.
+    /// Handlers must be in place. An HttpServer opens once. On a loopback address it answers requests that name this
+    /// machine, by whichever of its loopback names, and no others.
     bool open(const std::string &host, int port);
 
     /// The port that is served; 0 before open().
@@ -54,6 +55,7 @@ private:
 
     const HttpBounds m_bounds;
     int m_port = 0;
+    bool m_onLoopback = false;
     std::thread m_listener;
     std::atomic<bool> m_closing = false;
     std::mutex m_mutex;

@@ -25,6 +25,13 @@ QList<QString> texts(const QList<Step> &done)
     return all;
 }
 
+/// The texts in their order, each where it comes first.
+QList<QString> eachOnce(QList<QString> all)
+{
+    all.removeDuplicates();
+    return all;
+}
+
 QString reportSubject(const QList<FileItem> &files)
 {
     return files.size() == 1 ? displayTitle(files.first()) : u"%1 files"_s.arg(files.size());
@@ -46,7 +53,8 @@ Outcome<Job> Jobs::askReport(const QString &by, const QList<QString> &fileIds)
 {
     Change change(m_ledger);
     QList<FileItem> files;
-    for (const QString &id : fileIds) {
+    const QList<QString> once = eachOnce(fileIds);
+    for (const QString &id : once) {
         auto file = m_ledger.files.find(id);
         if (!file)
             return refused(u"One of those files isn't on the board."_s);
@@ -54,10 +62,10 @@ Outcome<Job> Jobs::askReport(const QString &by, const QList<QString> &fileIds)
     }
     if (files.isEmpty())
         return refused(u"A report needs at least one file."_s);
-    return ask(change, {.kind = u"report"_s, .requested_by = by, .args = JobArgs{fileIds}},
+    return ask(change, {.kind = u"report"_s, .requested_by = by, .args = JobArgs{once}},
                {.by = by,
                 .kind = u"report"_s,
-                .file_id = fileIds.size() == 1 ? std::optional(fileIds.first()) : std::nullopt,
+                .file_id = once.size() == 1 ? std::optional(once.first()) : std::nullopt,
                 .text = u"Asked for a report on "_s + reportSubject(files)});
 }
 

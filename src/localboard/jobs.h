@@ -30,7 +30,7 @@ public:
     /// A sync for \a by; refused while another is in line or under way.
     Outcome<Job> askSync(const QString &by);
 
-    /// A report on the files \a fileIds for \a by.
+    /// A report on the files \a fileIds for \a by. A file that is named twice is in it once.
     Outcome<Job> askReport(const QString &by, const QList<QString> &fileIds);
 
     /// Stops the job \a id, which must not have ended.

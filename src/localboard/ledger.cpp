@@ -1,5 +1,7 @@
 #include "ledger.h"
 
+#include "derived.h"
+
 #include <QRandomGenerator>
 
 #include <utility>
@@ -117,16 +119,11 @@ void Change::commit()
     ++m_ledger.rev;
 }
 
-bool isWork(const Finding &finding)
-{
-    return finding.kind != "expected"_L1 && finding.kind != "pass"_L1;
-}
-
 Tally tallyOf(const QList<Finding> &findings)
 {
     Tally tally{.open = 0, .issues = 0, .total = findings.size()};
     for (const Finding &finding : findings) {
-        tally.open = *tally.open + (isWork(finding) && finding.state == "open"_L1);
+        tally.open = *tally.open + (!isSettled(finding) && finding.state == "open"_L1);
         tally.issues = *tally.issues + (finding.state == "issue"_L1);
     }
     return tally;

@@ -66,9 +66,6 @@ private:
     const double m_at;
 };
 
-/// Whether \a finding is for people to judge: not what was expected, or passed.
-bool isWork(const Finding &finding);
-
 /// How far the review of \a findings has come. Open are those that are work.
 Tally tallyOf(const QList<Finding> &findings);
 

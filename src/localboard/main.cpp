@@ -1,8 +1,8 @@
 #include "localboard.h"
+#include "loopback.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
-#include <QHostAddress>
 #include <QStandardPaths>
 
 #include <csignal>
@@ -79,7 +79,7 @@ int main(int argc, char **argv)
         say(stderr, u"There is nobody on this board. Name a folder to start from: --seed."_s);
         return 1;
     }
-    if (!QHostAddress(options.host).isLoopback() && options.host != "localhost"_L1)
+    if (!local::isLoopback(options.host.toStdString()))
         say(stderr, u"Whoever reaches this address can sign in as anybody on the board."_s);
     say(stdout, u"The board is at %1, its data in %2."_s.arg(board.url().toString(), options.data));
     int signal = 0;

@@ -34,7 +34,7 @@ constexpr int picturePixels = 1000; ///< Of the longer side: sharp on paper at t
 
 QColor colorOf(const Finding &finding)
 {
-    if (!isWork(finding))
+    if (isSettled(finding))
         return {0x8B, 0x83, 0x7D};
     if (finding.state == "fine"_L1)
         return {0x2E, 0x8B, 0x57};

@@ -58,6 +58,8 @@ QString flawOf(const QString &text)
         return u"A note needs some words."_s;
     if (text.size() > longestNote)
         return u"That note is too long."_s;
+    if (text.contains(QChar::Null))
+        return u"That note holds a character that no one can read."_s;
     return {};
 }
 

@@ -3,6 +3,8 @@
 #include "counted.h"
 #include "derived.h"
 
+#include <functional>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -27,12 +29,12 @@ QString pagesMatched(const FileItem &file)
 qint64 serious(const FileDetail &proof)
 {
     return std::count_if(proof.findings.begin(), proof.findings.end(),
-                         [](const Finding &finding) { return isWork(finding) && finding.severity == "high"_L1; });
+                         [](const Finding &finding) { return !isSettled(finding) && finding.severity == "high"_L1; });
 }
 
 QString differencesFound(const FileDetail &proof)
 {
-    const auto found = std::count_if(proof.findings.begin(), proof.findings.end(), isWork);
+    const auto found = std::count_if(proof.findings.begin(), proof.findings.end(), std::not_fn(isSettled));
     return found == 0 ? u"Found no differences"_s : u"Found "_s + counted(found, u"difference"_s);
 }
 

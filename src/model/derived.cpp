@@ -8,6 +8,35 @@ namespace vexal {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+std::optional<double> aspect(const std::optional<QList<double>> &px)
+{
+    if (px && px->size() == 2 && px->at(1) > 0)
+        return px->at(0) / px->at(1);
+    return std::nullopt;
+}
+
+} // namespace
+
+QString shownText(const QString &text)
+{
+    if (text.size() <= longestShown)
+        return text;
+    const bool halved = text[longestShown].isLowSurrogate();
+    return text.first(halved ? longestShown - 1 : longestShown) + u'…';
+}
+
+QString shownText(const std::optional<QString> &text)
+{
+    return text ? shownText(*text) : QString();
+}
+
+std::optional<qint64> pageCount(const FileItem &file)
+{
+    return file.page_count && *file.page_count >= 0 ? file.page_count : std::nullopt;
+}
+
 QString displayTitle(const FileItem &file)
 {
     QStringList parts;
@@ -16,7 +45,7 @@ QString displayTitle(const FileItem &file)
             parts += *part;
     }
     const QString title = parts.join(u' ');
-    return title.isEmpty() ? file.filename.value_or(u"Untitled file"_s) : title;
+    return shownText(title.isEmpty() ? file.filename.value_or(u"Untitled file"_s) : title);
 }
 
 const Ref *ourFile(const FileItem &file, QStringView role)
@@ -27,19 +56,41 @@ const Ref *ourFile(const FileItem &file, QStringView role)
     return found == file.refs->cend() ? nullptr : &*found;
 }
 
+QString supplierName(const FileItem &file)
+{
+    const QString supplier = shownText(file.supplier);
+    return supplier.isEmpty() ? u"Supplier"_s : supplier;
+}
+
+const Finding *firstHigh(const FileDetail &detail)
+{
+    const auto found = std::ranges::find(detail.findings, u"high"_s, &Finding::severity);
+    return found == detail.findings.cend() ? nullptr : &*found;
+}
+
+bool isSettled(const Finding &finding)
+{
+    return finding.kind == "expected"_L1 || finding.kind == "pass"_L1;
+}
+
 double aspect(const Page &page)
 {
-    if (page.px && page.px->size() == 2 && page.px->at(1) > 0)
-        return page.px->at(0) / page.px->at(1);
+    if (const auto ofPicture = aspect(page.px))
+        return *ofPicture;
     if (page.w && page.h && *page.h > 0)
         return *page.w / *page.h;
     return 0.77;
 }
 
+double aspect(const RefPage &reference, double otherwise)
+{
+    return aspect(reference.px).value_or(otherwise);
+}
+
 QString pageLabel(const Page &page)
 {
     if (page.label && !page.label->isEmpty())
-        return *page.label;
+        return shownText(*page.label);
     // Unsigned, so that the largest index has a successor too.
     return page.i < 0 ? QString::number(page.i + 1) : QString::number(quint64(page.i) + 1);
 }
@@ -52,7 +103,7 @@ bool isResolved(const Note &note)
 QString firstName(const Person &person)
 {
     const QStringList words = person.name.split(u' ', Qt::SkipEmptyParts);
-    return words.isEmpty() ? person.name : words.first();
+    return shownText(words.isEmpty() ? person.name : words.first());
 }
 
 } // namespace vexal

@@ -398,6 +398,7 @@ void EndpointsTest::aBadRequestIsRefusedWithASentenceAndChangesNothing_data()
     QTest::newRow("note too long") << notes
                                    << QByteArray(R"({"file_id":"f1","text":")" + QByteArray(10'001, 'a') + "\"}")
                                    << 400;
+    QTest::newRow("note with a NUL") << notes << QByteArray(R"({"file_id":"f1","text":"a\u0000b"})") << 400;
     QTest::newRow("note on no file") << notes << QByteArray(R"({"file_id":"f9","text":"a"})") << 404;
     QTest::newRow("page beyond") << notes << QByteArray(R"({"file_id":"f1","text":"a","page":2})") << 400;
     QTest::newRow("page below") << notes << QByteArray(R"({"file_id":"f1","text":"a","page":-1})") << 400;
@@ -414,6 +415,7 @@ void EndpointsTest::aBadRequestIsRefusedWithASentenceAndChangesNothing_data()
         << notes << QByteArray(R"({"file_id":"f2","text":"a","finding_id":"a"})") << 400;
     QTest::newRow("nothing to change") << note << QByteArray("{}") << 400;
     QTest::newRow("changed to blanks") << note << QByteArray(R"({"text":"  "})") << 400;
+    QTest::newRow("changed to a NUL") << note << QByteArray(R"({"text":"a\u0000b"})") << 400;
     QTest::newRow("resolved by number") << note << QByteArray(R"({"resolved":1})") << 400;
     QTest::newRow("deleted false alone") << note << QByteArray(R"({"deleted":false})") << 400;
     QTest::newRow("note unknown") << u"/api/comments/zz"_s << QByteArray(R"({"text":"a"})") << 404;

@@ -1,4 +1,5 @@
 #include "httpserver.h"
+#include "loopback.h"
 #include "wire.h"
 
 #include <QTest>
@@ -31,12 +32,12 @@ struct Greeter : HttpServer
 
 QByteArray get(const QByteArray &path, const QByteArray &headers = {})
 {
-    return "GET " + path + " HTTP/1.1\r\nHost: here\r\n" + headers + "\r\n";
+    return "GET " + path + " HTTP/1.1\r\nHost: localhost\r\n" + headers + "\r\n";
 }
 
 QByteArray post(const QByteArray &headers, const QByteArray &body = {})
 {
-    return "POST /echo HTTP/1.1\r\nHost: here\r\n" + headers + "\r\n" + body;
+    return "POST /echo HTTP/1.1\r\nHost: localhost\r\n" + headers + "\r\n" + body;
 }
 
 } // namespace
@@ -59,6 +60,9 @@ private Q_SLOTS:
     void moreConnectionsThanThreadsAreAllServed();
     void closingFreesTheAddressAtOnce();
     void anExceptionSaysNothingOfItself();
+    void onLoopbackItAnswersToItsOwnNamesOnly_data();
+    void onLoopbackItAnswersToItsOwnNamesOnly();
+    void aHostLoopsBackWhenItIsThisMachineForSure();
 };
 
 void HttpServerTest::oneConnectionServesManyRequests()
@@ -217,6 +221,48 @@ void HttpServerTest::anExceptionSaysNothingOfItself()
     const auto answer = wire.answer();
     QCOMPARE(Wire::status(answer), 500);
     QVERIFY(!answer.contains("secret"));
+}
+
+void HttpServerTest::onLoopbackItAnswersToItsOwnNamesOnly_data()
+{
+    QTest::addColumn<QByteArray>("headers");
+    QTest::addColumn<int>("status");
+
+    QTest::newRow("its address") << QByteArray("Host: 127.0.0.1\r\n") << 200;
+    QTest::newRow("its address and a port") << QByteArray("Host: 127.0.0.1:8123\r\n") << 200;
+    QTest::newRow("its name") << QByteArray("Host: LocalHost\r\n") << 200;
+    QTest::newRow("its name and a port") << QByteArray("Host: localhost:1\r\n") << 200;
+    QTest::newRow("its newer address") << QByteArray("Host: [::1]\r\n") << 200;
+    QTest::newRow("its newer address and a port") << QByteArray("Host: [::1]:8123\r\n") << 200;
+    QTest::newRow("a name that leads here") << QByteArray("Host: rebound.example\r\n") << 421;
+    QTest::newRow("a name that begins so") << QByteArray("Host: 127.0.0.1.rebound.example:8123\r\n") << 421;
+    QTest::newRow("another address") << QByteArray("Host: 10.0.0.1\r\n") << 421;
+    QTest::newRow("no port") << QByteArray("Host: localhost:x\r\n") << 421;
+    QTest::newRow("an open bracket") << QByteArray("Host: [::1\r\n") << 421;
+    QTest::newRow("nothing") << QByteArray("Host:\r\n") << 421;
+    QTest::newRow("no header") << QByteArray() << 421;
+    QTest::newRow("two headers") << QByteArray("Host: localhost\r\nHost: rebound.example\r\n") << 421;
+}
+
+void HttpServerTest::onLoopbackItAnswersToItsOwnNamesOnly()
+{
+    QFETCH(QByteArray, headers);
+    QFETCH(int, status);
+    Greeter server;
+    Wire wire(server.port());
+    QVERIFY(wire.send("GET /hello HTTP/1.1\r\n" + headers + "\r\n"));
+    const QByteArray answer = wire.answer();
+    QCOMPARE(Wire::status(answer), status);
+    QCOMPARE(answer.endsWith("hello"), status == 200);
+    QCOMPARE(answer.contains("{\"error\":\"This board answers"), status == 421);
+}
+
+void HttpServerTest::aHostLoopsBackWhenItIsThisMachineForSure()
+{
+    for (const char *host : {"127.0.0.1", "127.9.8.7", "::1", "localhost", "LOCALHOST"})
+        QVERIFY2(isLoopback(host), host);
+    for (const char *host : {"", "0.0.0.0", "::", "10.0.0.1", "128.0.0.1", "fe80::1", "localhost.example", "here"})
+        QVERIFY2(!isLoopback(host), host);
 }
 
 QTEST_APPLESS_MAIN(HttpServerTest)

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aJobThatWasCutOffIsBegunAgain();
     void aReportIsAPdfOfPagesFindingsAndNotes();
     void aReportOnSeveralFilesHoldsThemAll();
+    void aFileNamedTwiceIsInAReportOnce();
     void aStoppedReportIsNotMade();
     void aLongNoteRunsOverSeveralSheets();
     void aReportThatCameWithoutItsPdfIsDrawnOnce();
@@ -275,6 +276,17 @@ void JobsTest::aReportOnSeveralFilesHoldsThemAll()
     QCOMPARE(sheetsOfPdf(pdf).size(), 3);
     QVERIFY(textOfPdf(pdf).contains(u"Tidepool Box lid"_s));
     QVERIFY(textOfPdf(pdf).contains(u"Nothing found."_s));
+}
+
+void JobsTest::aFileNamedTwiceIsInAReportOnce()
+{
+    TinyBoard board;
+    auto mira = board.mira();
+    const auto job = ask(mira, reportBody({u"f2"_s, u"f1"_s, u"f2"_s})).as<Job>();
+    QCOMPARE(job.args->file_ids, (QList{u"f2"_s, u"f1"_s}));
+    QVERIFY(board.isAtRest());
+    QCOMPARE(mira.board().reports[0].file_ids, (QList{u"f2"_s, u"f1"_s}));
+    QCOMPARE(mira.board().reports[0].title, u"Report on 2 files"_s);
 }
 
 void JobsTest::aStoppedReportIsNotMade()

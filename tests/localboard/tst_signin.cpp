@@ -20,6 +20,7 @@ private Q_SLOTS:
     void theHintedPersonStandsFirst();
     void whatComesFromOutsideIsNoMarkup();
     void withoutAStateThePageSaysWhatItIs();
+    void theHeaderOfThePageMayBeAskedForAlone();
     void choosingLeadsBackToTheClientWithStateAndCode();
     void aCodeIsGoodOnce();
     void aCodeIsGoodForTenMinutes();
@@ -95,12 +96,24 @@ void SignInTest::withoutAStateThePageSaysWhatItIs()
     }
 }
 
+void SignInTest::theHeaderOfThePageMayBeAskedForAlone()
+{
+    TinyBoard board;
+    Wire wire(board->url().port());
+    QVERIFY(wire.send("HEAD / HTTP/1.1\r\nHost: localhost\r\nConnection: close\r\n\r\n"));
+    const QByteArray answer = wire.answer();
+    QCOMPARE(Wire::status(answer), 200);
+    QVERIFY(answer.contains("Content-Type: text/html"));
+    QVERIFY(answer.endsWith("\r\n\r\n"));
+}
+
 void SignInTest::choosingLeadsBackToTheClientWithStateAndCode()
 {
     TinyBoard board;
     const QByteArray body = "state=a%26b%3Dc%20%2B&email=teo%40lanternhouse.example";
     Wire wire(board->port()); // a client of httplib would decode what it shows
-    QVERIFY(wire.send("POST /signin HTTP/1.1\r\nContent-Type: application/x-www-form-urlencoded\r\nContent-Length: " +
+    QVERIFY(wire.send("POST /signin HTTP/1.1\r\nHost: localhost\r\nContent-Type: application/x-www-form-urlencoded\r\n"
+                      "Content-Length: " +
                       QByteArray::number(body.size()) + "\r\n\r\n" + body));
     const auto answer = wire.answer();
     QCOMPARE(Wire::status(answer), 303);

@@ -22,6 +22,56 @@ class TestDerived : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void aTextOfTenThousandCharactersIsShownWhole()
+    {
+        for (const QString &character : {u"a"_s, u"ü"_s, u"🦊"_s, u"ש"_s}) {
+            const QString text = character.repeated(10'000);
+            QCOMPARE(shownText(text), text);
+        }
+        QCOMPARE(shownText(std::optional<QString>()), QString());
+    }
+
+    void aLongerTextEndsInAnEllipsisAfterAWholeCharacter()
+    {
+        const QString longer = shownText(QString(1'000'000, u'a'));
+        QCOMPARE(longer, QString(longestShown, u'a') + u'…');
+        const QString foxes = shownText(u'a' + u"🦊"_s.repeated(longestShown));
+        QCOMPARE(foxes, u'a' + u"🦊"_s.repeated(longestShown / 2 - 1) + u'…');
+    }
+
+    void aFileComesFromItsSupplierByName()
+    {
+        QCOMPARE(supplierName({.supplier = u"Ostrel Print"_s}), u"Ostrel Print"_s);
+        QCOMPARE(supplierName({.supplier = u""_s}), u"Supplier"_s);
+        QCOMPARE(supplierName({}), u"Supplier"_s);
+    }
+
+    void theFirstFindingOfHighSeverityCounts()
+    {
+        FileDetail detail;
+        QCOMPARE(firstHigh(detail), nullptr);
+        detail.findings = {{.id = u"a"_s, .severity = u"low"_s},
+                           {.id = u"b"_s, .severity = u"high"_s},
+                           {.id = u"c"_s, .severity = u"high"_s}};
+        QCOMPARE(firstHigh(detail)->id, u"b"_s);
+    }
+
+    void whatWasExpectedOrPassedIsSettledWhateverItsState()
+    {
+        QVERIFY(isSettled({.kind = u"expected"_s, .state = u"open"_s}));
+        QVERIFY(isSettled({.kind = u"pass"_s, .state = u"issue"_s}));
+        QVERIFY(!isSettled({.kind = u"words"_s, .state = u"fine"_s}));
+    }
+
+    void aFileHasNoPagesBelowNone()
+    {
+        QCOMPARE(pageCount({.page_count = 16}), 16);
+        QCOMPARE(pageCount({.page_count = 0}), 0);
+        QCOMPARE(pageCount({.page_count = -1}), std::nullopt);
+        QCOMPARE(pageCount({.page_count = std::numeric_limits<qint64>::min()}), std::nullopt);
+        QCOMPARE(pageCount({}), std::nullopt);
+    }
+
     void aFileIsCalledByTitleAndComponent()
     {
         QCOMPARE(displayTitle(named(u"Owls"_s, u"Box"_s, u"a.pdf"_s)), u"Owls Box"_s);

@@ -50,11 +50,21 @@ constexpr auto keyring = "/org/freedesktop/secrets/collection/login"_L1;
 using Attributes = QMap<QString, QString>;
 using Paths = QList<QDBusObjectPath>;
 
-QDBusMessage ask(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments)
+bool isOnBus()
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(busName);
+}
+
+QDBusMessage call(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments)
 {
     auto call = QDBusMessage::createMethodCall(busName, path, interface, method);
     call.setArguments(arguments);
-    const QDBusMessage reply = QDBusConnection::sessionBus().call(call);
+    return QDBusConnection::sessionBus().call(call);
+}
+
+QDBusMessage ask(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments)
+{
+    const QDBusMessage reply = call(path, interface, method, arguments);
     if (reply.type() != QDBusMessage::ReplyMessage)
         qFatal("The keyring refused %s: %s", qPrintable(method), qPrintable(reply.errorMessage()));
     return reply;
@@ -121,8 +131,7 @@ void KeyringDaemon::start()
     m_daemon.start(u"gnome-keyring-daemon"_s, {u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s});
     m_daemon.write(password.toUtf8());
     m_daemon.closeWriteChannel();
-    const auto isThere = [] { return QDBusConnection::sessionBus().interface()->isServiceRegistered(busName).value(); };
-    if (!QTest::qWaitFor(isThere, 10000))
+    if (!QTest::qWaitFor(isOnBus, 10000))
         qFatal("The keyring did not start.");
 }
 
@@ -131,6 +140,9 @@ void KeyringDaemon::stop()
     thaw();
     m_daemon.kill();
     m_daemon.waitForFinished();
+    // Else the next one is taken to be there before it is.
+    if (!QTest::qWaitFor([] { return !isOnBus(); }, 10000))
+        qFatal("The keyring did not go.");
 }
 
 void KeyringDaemon::lock()
@@ -161,8 +173,9 @@ QStringList KeyringDaemon::secrets(const QString &service, const QString &accoun
     QStringList secrets;
     const QVariant session = QVariant::fromValue(plainSession());
     for (const QDBusObjectPath &item : itemsOf(service, account)) {
-        const auto reply = ask(item.path(), u"org.freedesktop.Secret.Item"_s, u"GetSecret"_s, {session});
-        secrets += QString::fromUtf8(qdbus_cast<PlainSecret>(reply.arguments().at(0)).value);
+        const auto reply = call(item.path(), u"org.freedesktop.Secret.Item"_s, u"GetSecret"_s, {session});
+        if (reply.type() == QDBusMessage::ReplyMessage) // else it went meanwhile
+            secrets += QString::fromUtf8(qdbus_cast<PlainSecret>(reply.arguments().at(0)).value);
     }
     return secrets;
 }

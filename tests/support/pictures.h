@@ -7,7 +7,17 @@
 /// Pictures for tests.
 namespace vexal::test {
 
-/// The bytes of a picture of one colour with a darker frame, as a file of the format ("PNG", "JPG").
+/// The bytes of a picture as a file of the format ("PNG", "JPG").
+inline QByteArray bytesOf(const QImage &image, const char *format = "PNG")
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format, 90);
+    return bytes;
+}
+
+/// The bytes of a picture of one colour with a darker frame.
 inline QByteArray pictureBytes(QSize size, const QColor &colour = Qt::red, const char *format = "PNG")
 {
     QImage image(size, QImage::Format_RGB32);
@@ -16,11 +26,7 @@ inline QByteArray pictureBytes(QSize size, const QColor &colour = Qt::red, const
         image.setPixelColor(x, 0, colour.darker());
         image.setPixelColor(x, size.height() - 1, colour.darker());
     }
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format, 90);
-    return bytes;
+    return bytesOf(image, format);
 }
 
 } // namespace vexal::test
