@@ -5,11 +5,10 @@
 #include "desktopopener.h"
 #include "dialogfilepicker.h"
 #include "filepreferences.h"
-#include "launcherbadge.h"
 #include "localboard.h"
 #include "memorycredentialstore.h"
-#include "notifications.h"
 #include "portallook.h"
+#include "quietdesktop.h"
 #include "samplefolder.h"
 #include "systemnetworkpresence.h"
 #include "typeface.h"
@@ -25,20 +24,6 @@ using namespace Qt::StringLiterals;
 using namespace vexal;
 
 namespace {
-
-// A demo counts and tells nothing on anybody's desktop.
-class NoBadge : public LauncherBadge
-{
-public:
-    void show(int) override {}
-};
-
-class NoNotifications : public Notifications
-{
-public:
-    void show(const QString &, const QString &) override {}
-    void withdraw() override {}
-};
 
 int fail(const QString &why)
 {

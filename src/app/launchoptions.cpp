@@ -38,6 +38,16 @@ std::optional<QString> valueOf(QStringView flag, const QStringList &arguments)
     return *std::next(found);
 }
 
+QList<QUrl> urlsIn(const QStringList &arguments)
+{
+    QList<QUrl> urls;
+    for (const QString &argument : arguments) {
+        if (const QUrl url(argument, QUrl::StrictMode); url.scheme() == "vexal"_L1)
+            urls.append(url);
+    }
+    return urls;
+}
+
 std::optional<QSizeF> sizeFromText(const QString &text)
 {
     const QStringList pieces = text.split(u'x', Qt::SkipEmptyParts);

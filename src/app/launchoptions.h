@@ -2,6 +2,7 @@
 
 #include <QSizeF>
 #include <QStringList>
+#include <QUrl>
 
 #include <optional>
 
@@ -28,6 +29,9 @@ QStringList commandLine(int argc, char **argv);
 /// The argument after the first occurrence of the flag, compared as a whole; nothing when the flag stands last or
 /// nowhere.
 std::optional<QString> valueOf(QStringView flag, const QStringList &arguments);
+
+/// Those of the arguments that are URLs of the program's own scheme, as the desktop hands them over.
+QList<QUrl> urlsIn(const QStringList &arguments);
 
 /// Reads the flags, compared as whole arguments. A flag with a value takes the argument after its first occurrence; a
 /// flag that stands last has none and counts as not given. Nothing without "--shot".

@@ -25,12 +25,6 @@ using namespace vexal;
 
 namespace {
 
-// A run without a server: nothing is asked for.
-void fetchNothing(const QString &, QObject *, const Images::Fetched &fetched)
-{
-    fetched(std::nullopt);
-}
-
 /// The sample board or the sign-in screen, which need no server.
 int photograph(QGuiApplication &application, const LaunchOptions &options)
 {
@@ -43,7 +37,7 @@ int photograph(QGuiApplication &application, const LaunchOptions &options)
     applyTypeface(application, Typeface::Ours);
     // Nothing of the person's own gets into the picture: no folder of cached pictures.
     VexalApp app({standingClock(read.sample ? latestMoment(*read.sample) : QDateTime::fromMSecsSinceEpoch(0)),
-                  QString(), fetchNothing});
+                  QString(), Images::fetchNothing});
     app.pose(options);
     if (read.sample) {
         app.showSample(*read.sample, *options.sample);
@@ -54,22 +48,12 @@ int photograph(QGuiApplication &application, const LaunchOptions &options)
     return QGuiApplication::exec();
 }
 
-QList<QUrl> urlsIn(const QStringList &arguments)
-{
-    QList<QUrl> urls;
-    for (const QString &argument : arguments) {
-        if (const QUrl url(argument, QUrl::StrictMode); url.scheme() == QLatin1StringView("vexal"))
-            urls.append(url);
-    }
-    return urls;
-}
-
 /// The client on its server. A photograph of it is no second start: it may be taken beside the one that runs.
 int live(QGuiApplication &application, const QStringList &arguments, const std::optional<LaunchOptions> &options)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     const QString id = deployment::applicationId.toString();
-    SingleInstance instance(bus, id);
+    SingleInstance instance(bus, id, runtimeFolder());
     if (!options && instance.claim(urlsIn(arguments)) == SingleInstance::Role::Second)
         return 0;
 
@@ -95,12 +79,7 @@ int live(QGuiApplication &application, const QStringList &arguments, const std::
                         .downloads = downloadsFolder()});
     VexalApp app({systemClock(), picturesFolder(), client.fetch(), client.surroundings()});
 
-    const auto open = [&app](const QList<QUrl> &urls) {
-        for (const QUrl &url : urls)
-            app.store().openUrl(url);
-        app.comeForward();
-    };
-    QObject::connect(&instance, &SingleInstance::opened, &app.store(), open);
+    QObject::connect(&instance, &SingleInstance::opened, &app.store(), [&app](const auto &urls) { app.open(urls); });
     QObject::connect(&instance, &SingleInstance::activated, &app.store(), [&app] { app.comeForward(); });
     app.hear(notifications);
     app.store().resume();
@@ -115,7 +94,7 @@ int live(QGuiApplication &application, const QStringList &arguments, const std::
         if (options)
             captureWhenSettled(options->shot);
         else
-            open(urlsIn(arguments));
+            app.open(urlsIn(arguments));
     });
     return QGuiApplication::exec();
 }

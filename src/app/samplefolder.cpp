@@ -2,14 +2,15 @@
 
 #include "clock.h"
 #include "decode.h"
+#include "derived.h"
 #include "launchoptions.h"
+#include "moments.h"
 #include "store.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -18,57 +19,6 @@ namespace vexal {
 namespace {
 
 constexpr QPointF stagedPin(0.62, 0.30);
-
-// Which fields of the records are moments: those of these names that hold a floating-point number.
-constexpr std::array momentKeys{"at"_L1,      "beat"_L1,     "created"_L1,   "edited"_L1,   "finished"_L1,
-                                "started"_L1, "received"_L1, "last_seen"_L1, "state_at"_L1, "status_at"_L1};
-
-struct LatestMoment
-{
-    double found = 0;
-
-    template <typename Value>
-    void look(const char *, const Value &)
-    {
-    }
-    void look(const char *key, double value)
-    {
-        if (std::find(momentKeys.begin(), momentKeys.end(), QLatin1StringView(key)) != momentKeys.end())
-            found = std::max(found, value);
-    }
-    template <typename Value>
-    void look(const char *key, const std::optional<Value> &value)
-    {
-        if (value)
-            look(key, *value);
-    }
-    template <typename Value>
-    void look(const char *key, const QList<Value> &values)
-    {
-        for (const Value &value : values)
-            look(key, value);
-    }
-    template <typename Value>
-    void look(const char *key, const QMap<QString, Value> &values)
-    {
-        for (const Value &value : values)
-            look(key, value);
-    }
-    template <typename Record>
-    requires requires(const Record *record) { fieldsOf(record); }
-    void look(const char *, const Record &record)
-    {
-        std::apply([&](const auto &...field) { (look(field.key, record.*field.member), ...); }, fieldsOf(&record));
-    }
-};
-
-void focusFirstHigh(Store &store, const FileDetail &detail)
-{
-    const auto high = std::find_if(detail.findings.cbegin(), detail.findings.cend(),
-                                   [](const Finding &finding) { return finding.severity == "high"_L1; });
-    if (high != detail.findings.cend())
-        store.focusFinding(high->id);
-}
 
 } // namespace
 
@@ -87,9 +37,9 @@ SampleRead readSample(const QString &folder)
 
 QDateTime latestMoment(const Sample &sample)
 {
-    LatestMoment latest;
-    latest.look("", sample);
-    return momentOf(latest.found);
+    double latest = 0;
+    forEachMoment(sample, [&latest](double moment) { latest = std::max(latest, moment); });
+    return momentOf(latest);
 }
 
 void stage(Store &store, const LaunchOptions &options)
@@ -100,8 +50,10 @@ void stage(Store &store, const LaunchOptions &options)
     if (options.multi && files.size() > 1 && files[1].id != files[0].id)
         store.selectFile(files[1].id, true);
     const FileItem *current = store.current();
-    if (const FileDetail *detail = current ? store.detail(current->id) : nullptr; detail && options.focus)
-        focusFirstHigh(store, *detail);
+    if (const FileDetail *detail = current ? store.detail(current->id) : nullptr; detail && options.focus) {
+        if (const Finding *high = firstHigh(*detail))
+            store.focusFinding(high->id);
+    }
     if (options.activity)
         store.setShowActivity(true);
     if (options.pin)

@@ -26,8 +26,22 @@ namespace vexal {
 namespace {
 
 constexpr int largestSide = 16384; ///< What a window system can hold, with room to spare.
+const QUrl screens(u"qrc:/qt-project.org/imports/Vexal/Root/RootView.qml"_s);
 constexpr auto settlingTime = 3s;
 constexpr auto longestWait = 300ms;
+constexpr auto longestDecoding = 100ms;
+
+// A timer that does something once, whenever it is started, and then is gone.
+QTimer *singleShot(QObject *context, const std::function<void()> &then)
+{
+    auto *timer = new QTimer(context);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, context, [timer, then] {
+        timer->deleteLater();
+        then();
+    });
+    return timer;
+}
 
 QSize windowSize(QSizeF asked)
 {
@@ -46,6 +60,7 @@ VexalApp::VexalApp(Parts parts)
     : m_store(parts.surroundings ? std::make_unique<Store>(std::move(parts.clock), *parts.surroundings)
                                  : std::make_unique<Store>(std::move(parts.clock)))
     , m_images(parts.pictureFolder, std::move(parts.fetch))
+    , m_screens(&m_engine, screens, QQmlComponent::Asynchronous)
     , m_window(&m_engine, nullptr)
 {
     giveStore(m_engine, *m_store);
@@ -104,29 +119,48 @@ void VexalApp::showSample(Sample sample, const QString &folder)
 
 void VexalApp::show()
 {
-    m_window.setSource(QUrl(u"qrc:/qt-project.org/imports/Vexal/Root/RootView.qml"_s));
-    m_window.show();
+    // At its size from the beginning, what is on the screens is laid out and asked for once.
+    m_window.setInitialProperties({{u"width"_s, m_window.width()}, {u"height"_s, m_window.height()}});
+    m_window.setSource(screens);
+    QTimer *wait = singleShot(&m_window, [this] {
+        m_window.show();
+        m_window.requestActivate();
+    });
+    QObject::connect(&m_images.pixels(), &Pixels::rested, wait, [wait] { wait->start(0); });
+    wait->start(longestDecoding);
+    // The screens ask for their pictures at the end of this turn; there may be none.
+    QMetaObject::invokeMethod(
+        wait,
+        [this, wait] {
+            if (!m_images.pixels().isBusy())
+                wait->start(0);
+        },
+        Qt::QueuedConnection);
+}
+
+void VexalApp::open(const QList<QUrl> &urls)
+{
+    for (const QUrl &url : urls)
+        m_store->openUrl(url);
+    comeForward();
 }
 
 void VexalApp::comeForward()
 {
+    if (!m_window.isVisible())
+        return;
     if (m_window.windowStates().testFlag(Qt::WindowMinimized))
         m_window.showNormal();
     m_window.raise();
     m_window.requestActivate();
 }
 
-void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context, std::function<void()> then)
+void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context, const std::function<void()> &then)
 {
     const auto known = [&credentials, &look] { return credentials.known() && look.known(); };
     if (known())
         return then();
-    auto *wait = new QTimer(context);
-    wait->setSingleShot(true);
-    QObject::connect(wait, &QTimer::timeout, context, [wait, then = std::move(then)] {
-        wait->deleteLater();
-        then();
-    });
+    QTimer *wait = singleShot(context, then);
     const auto goOn = [wait, known] {
         if (known())
             wait->start(0);

@@ -7,6 +7,7 @@
 #include "surroundings.h"
 #include "windowmemory.h"
 
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
 
@@ -51,6 +52,8 @@ public:
     void showSample(Sample sample, const QString &folder);
     /// Opens the window.
     void show();
+    /// Takes URLs that were opened into the program from outside, and brings the window forward.
+    void open(const QList<QUrl> &urls);
     /// Brings the open window before the others, as far as the desktop lets a program do that.
     void comeForward();
 
@@ -58,13 +61,14 @@ private:
     std::unique_ptr<Store> m_store;
     Images m_images;
     QQmlEngine m_engine;
+    QQmlComponent m_screens; ///< Being loaded in a thread of the engine while the window is made.
     QQuickView m_window;
     std::unique_ptr<WindowMemory> m_memory; ///< None: the window stands where it is put.
 };
 
 /// Lets `then` wait for the answers of the credential store and of the desktop, but not for long: the first frame must
 /// neither be late, nor show the sign-in screen to someone who is signed in, nor light to someone who wants dark.
-void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context, std::function<void()> then);
+void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context, const std::function<void()> &then);
 
 /// What has to be said to Qt before the application object is made.
 void prepareProcess();

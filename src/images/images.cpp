@@ -21,10 +21,10 @@ Images::~Images()
 
 std::optional<Picture> Images::cached(const QString &key)
 {
-    for (const auto *known : {&m_samples, &m_memory}) {
-        if (const auto found = known->constFind(key); found != known->cend())
-            return *found;
-    }
+    if (auto found = sample(key))
+        return found;
+    if (const auto found = m_memory.constFind(key); found != m_memory.cend())
+        return *found;
     auto picture = m_disk.read(key);
     if (picture)
         remember(key, *picture);
@@ -94,9 +94,24 @@ void Images::addSamples(const QString &folder)
     QDirIterator files(folder, {u"*.jpg"_s, u"*.png"_s}, QDir::Files | QDir::Hidden | QDir::CaseSensitive);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (const auto picture = Picture::fromFile(path))
-            m_samples.insert(files.fileName().replace(u'_', u'/'), *picture);
+        m_samples.insert(files.fileName().replace(u'_', u'/'), path);
     }
+}
+
+// A sample's picture, opened when it is asked for. A file that is none is no sample.
+std::optional<Picture> Images::sample(const QString &key)
+{
+    const auto path = m_samples.constFind(key);
+    if (path == m_samples.cend())
+        return std::nullopt;
+    if (const auto opened = m_openedSamples.constFind(key); opened != m_openedSamples.cend())
+        return *opened;
+    auto picture = Picture::fromFile(*path);
+    if (picture)
+        m_openedSamples.insert(key, *picture);
+    else
+        m_samples.erase(path);
+    return picture;
 }
 
 bool Images::spoiled(const QString &key)

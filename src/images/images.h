@@ -49,6 +49,9 @@ public:
     qsizetype inMemory() const { return m_memory.size(); }
     QString dir() const { return m_disk.folder(); }
 
+    /// A fetch where there is no server: nothing is asked for.
+    static void fetchNothing(const QString &, QObject *, const Fetched &fetched) { fetched(std::nullopt); }
+
 private:
     struct Waiter
     {
@@ -56,6 +59,7 @@ private:
         Done done;
     };
 
+    std::optional<Picture> sample(const QString &key);
     void download(const QString &key);
     void check(const QString &key, const QByteArray &bytes);
     void settle(const QString &key, const std::optional<Picture> &picture);
@@ -63,7 +67,8 @@ private:
 
     QHash<QString, Picture> m_memory;
     QHash<QString, QList<Waiter>> m_inflight;
-    QHash<QString, Picture> m_samples;
+    QHash<QString, QString> m_samples; ///< Where the picture of each key lies.
+    QHash<QString, Picture> m_openedSamples;
     QSet<QString> m_spoiled;
     DiskCache m_disk;
     Fetch m_fetch;

@@ -5,6 +5,8 @@
 #include <QThread>
 
 #include <algorithm>
+#include <bit>
+#include <future>
 
 namespace vexal {
 
@@ -13,6 +15,12 @@ namespace {
 qint64 area(QSize size)
 {
     return qint64(size.width()) * size.height();
+}
+
+// What is largest on the screen goes first.
+int rank(QSize level)
+{
+    return int(std::bit_width(quint64(area(level))));
 }
 
 QImage scaledTo(const QImage &image, QSize level)
@@ -28,6 +36,13 @@ QImage wholeOf(const Picture &picture, const QImage &known)
     return known.isNull() ? picture.decoded(picture.size()) : known;
 }
 
+// The difference of two pages, of which some pixels may be known. Both are decoded at once.
+QImage differenceOf(const Source &source, const QImage &theirs, const QImage &ours)
+{
+    auto other = std::async(std::launch::async, wholeOf, *source.other, ours);
+    return pageDifference(wholeOf(source.picture, theirs), other.get());
+}
+
 } // namespace
 
 QSize Source::size() const
@@ -40,11 +55,15 @@ Pixels::Pixels(qint64 bytes, QObject *parent)
     , m_budget(bytes)
 {
     m_workers.setMaxThreadCount(std::clamp(QThread::idealThreadCount(), 2, 4));
+    m_aheadWorker.setMaxThreadCount(1);
 }
 
 Pixels::~Pixels()
 {
-    m_workers.waitForDone();
+    for (QThreadPool *workers : {&m_workers, &m_aheadWorker}) {
+        workers->clear();
+        workers->waitForDone();
+    }
 }
 
 QSize Pixels::levelFor(const Source &source, QSize shown)
@@ -95,15 +114,34 @@ void Pixels::load(const Source &source, QSize level, Urgency urgency, QObject *c
 {
     if (const QImage image = held(source, level); !image.isNull())
         return done(image);
+    callOff();
     const Key key = keyOf(source, level);
     auto job = m_jobs.find(key);
-    if (job == m_jobs.end()) {
-        job = m_jobs.insert(key, Job{source, urgency, false, {}});
-        m_queue.append(key);
-    }
-    job->urgency = std::max(job->urgency, urgency);
+    const bool isNew = job == m_jobs.end();
+    if (isNew)
+        job = m_jobs.insert(key, Job{urgency, std::make_shared<std::atomic_bool>(true), {}});
     job->waiters.append({context, done});
-    startNext();
+    if (!isNew && job->urgency >= urgency)
+        return;
+    // One that has become more urgent is handed over once more; the first worker to come takes it.
+    job->urgency = urgency;
+    const auto begin = [open = job->open, work = work(key, source)] {
+        if (open->exchange(false))
+            work();
+    };
+    QThreadPool &workers = urgency == Urgency::Shown ? m_workers : m_aheadWorker;
+    workers.start(begin, rank(level));
+}
+
+// Takes jobs back whose askers have all gone, unless they are under way.
+void Pixels::callOff()
+{
+    m_jobs.removeIf([](QHash<Key, Job>::iterator job) {
+        const auto &waiters = job->waiters;
+        const bool forgotten =
+            std::none_of(waiters.cbegin(), waiters.cend(), [](const Waiter &waiter) { return waiter.context; });
+        return forgotten && job->open->exchange(false);
+    });
 }
 
 QImage Pixels::known(const Source &source) const
@@ -111,69 +149,47 @@ QImage Pixels::known(const Source &source) const
     return m_levels.value(keyOf(source, source.size())).image;
 }
 
-void Pixels::startNext()
+std::function<void()> Pixels::work(const Key &key, const Source &source)
 {
-    Key next;
-    while (m_running < m_workers.maxThreadCount() && takeNext(next)) {
-        ++m_running;
-        Job &job = m_jobs[next];
-        job.running = true;
-        make(next, *job.source);
-    }
+    if (source.other)
+        return subtraction(key, source);
+    return [this, key, picture = source.picture] { tell(key, picture.decoded(key.size), key, {}); };
 }
 
-void Pixels::make(const Key &key, const Source &source)
+// What is known at full size already is not made again.
+std::function<void()> Pixels::subtraction(const Key &key, const Source &source)
 {
-    const auto tell = [this, key](const QImage &image, const Key &wholeKey, const QImage &whole) {
-        QMetaObject::invokeMethod(
-            this, [this, key, image, wholeKey, whole] { finish(key, image, wholeKey, whole); }, Qt::QueuedConnection);
+    return [=, this, whole = known(source), theirs = known(source.picture), ours = known(*source.other)] {
+        const QImage full = whole.isNull() ? differenceOf(source, theirs, ours) : whole;
+        tell(key, scaledTo(full, key.size), keyOf(source, source.size()), full);
     };
-    if (!source.other) {
-        m_workers.start([key, picture = source.picture, tell] { tell(picture.decoded(key.size), key, {}); });
-        return;
-    }
-    // What is known at full size already need not be made again.
-    m_workers.start([=, whole = known(source), theirs = known(source.picture), ours = known(*source.other)] {
-        const QImage full =
-            whole.isNull() ? pageDifference(wholeOf(source.picture, theirs), wholeOf(*source.other, ours)) : whole;
-        tell(scaledTo(full, key.size), keyOf(source, source.size()), full);
-    });
 }
 
-// Takes the most urgent job off the queue; jobs whose askers have all gone are dropped on the way.
-bool Pixels::takeNext(Key &next)
+// Called by the workers.
+void Pixels::tell(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole)
 {
-    m_queue.removeIf([this](const Key &key) {
-        const auto &waiters = m_jobs[key].waiters;
-        const bool forgotten =
-            std::none_of(waiters.cbegin(), waiters.cend(), [](const Waiter &waiter) { return waiter.context; });
-        if (forgotten)
-            m_jobs.remove(key);
-        return forgotten;
-    });
-    const auto urgent = std::max_element(m_queue.cbegin(), m_queue.cend(), [this](const Key &a, const Key &b) {
-        return m_jobs[a].urgency < m_jobs[b].urgency;
-    });
-    if (urgent == m_queue.cend())
-        return false;
-    next = *urgent;
-    m_queue.erase(urgent);
-    return true;
+    QMetaObject::invokeMethod(
+        this, [=, this] { finish(key, image, wholeKey, whole); }, Qt::QueuedConnection);
 }
 
 void Pixels::finish(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole)
 {
-    --m_running;
     const Job job = m_jobs.take(key);
     if (!(wholeKey == key) && !whole.isNull() && !m_levels.contains(wholeKey))
         keep(wholeKey, whole);
     if (!image.isNull())
         keep(key, image);
-    startNext();
     for (const Waiter &waiter : job.waiters) {
         if (waiter.context)
             waiter.done(image);
     }
+    if (!isBusy())
+        Q_EMIT rested();
+}
+
+bool Pixels::isBusy() const
+{
+    return std::any_of(m_jobs.cbegin(), m_jobs.cend(), [](const Job &job) { return job.urgency == Urgency::Shown; });
 }
 
 void Pixels::keep(const Key &key, const QImage &image)

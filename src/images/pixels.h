@@ -7,7 +7,9 @@
 #include <QPointer>
 #include <QThreadPool>
 
+#include <atomic>
 #include <functional>
+#include <memory>
 
 namespace vexal {
 
@@ -65,13 +67,20 @@ public:
     QImage held(const Source &source, QSize level);
     /// The largest level of a source that is held, to stand in for another; null when there is none.
     QImage heldInstead(const Source &source);
-    /// Answers a level: at once when it is held, else when it is made; null when the picture turns out to be none.
-    /// Nothing is answered to a context that has gone, and what nobody waits for any more is not begun. The difference
+    /// Answers a level: at once when it is held, else when it is made; null when the picture turns out to be none. What
+    /// is shown is made first, and of that what is largest. Nothing is answered to a context that has gone, and what
+    /// nobody waits for any more is not begun. The difference
     /// of two pages is taken at their full size, whatever the level, and is held at that size as well.
     void load(const Source &source, QSize level, Urgency urgency, QObject *context, const Done &done);
 
+    /// Something that is looked at is being made.
+    bool isBusy() const;
     /// Bytes of all levels that are held.
     qint64 bytes() const { return m_bytes; }
+
+Q_SIGNALS:
+    /// All that is looked at is made.
+    void rested();
 
 private:
     struct Key
@@ -97,16 +106,16 @@ private:
     };
     struct Job
     {
-        std::optional<Source> source;
         Urgency urgency = Urgency::Ahead;
-        bool running = false;
+        std::shared_ptr<std::atomic_bool> open; ///< Whoever takes this away has the job, or has called it off.
         QList<Waiter> waiters;
     };
 
     static Key keyOf(const Source &source, QSize level);
-    void startNext();
-    bool takeNext(Key &next);
-    void make(const Key &key, const Source &source);
+    void callOff();
+    std::function<void()> work(const Key &key, const Source &source);
+    std::function<void()> subtraction(const Key &key, const Source &source);
+    void tell(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole);
     QImage known(const Source &source) const;
     void finish(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole);
     void keep(const Key &key, const QImage &image);
@@ -115,11 +124,10 @@ private:
     qint64 m_budget;
     qint64 m_bytes = 0;
     quint64 m_wanted = 0;
-    int m_running = 0;
     QHash<Key, Level> m_levels;
     QHash<Key, Job> m_jobs;
-    QList<Key> m_queue; ///< Of jobs that are not running, in the order in which they came.
     QThreadPool m_workers;
+    QThreadPool m_aheadWorker; ///< For what may be shown: it never takes all processors from what is.
 };
 
 } // namespace vexal

@@ -15,8 +15,9 @@ namespace {
 
 const QString account = u"session"_s;
 
-/// After a restart of the keyring daemon libsecret goes on using the session that it had with the old one.
-void dropStaleSession()
+/// Has libsecret let go of the keyring daemon between two requests. After a restart of the daemon it would go on using
+/// the session that it had with the old one, and complain on standard error of what the new one says.
+void leaveDaemon()
 {
     if (QFunctionPointer disconnect = QLibrary(u"secret-1"_s, 0).resolve("secret_service_disconnect"))
         disconnect();
@@ -150,11 +151,13 @@ void KeyringCredentialStore::run(const std::function<Job *()> &make, const std::
     job->setKey(account);
     // A job that is deleted before it has finished takes the program down with it: it lives until it has, however long.
     job->setAutoDelete(false);
-    connect(job, &Job::finished, job, &QObject::deleteLater);
+    connect(job, &Job::finished, job, [job] {
+        job->deleteLater();
+        leaveDaemon();
+    });
     connect(job, &Job::finished, this, [this, job, make, then, first] {
         if (job->error() != QKeychain::OtherError || !first)
             return then(*job);
-        dropStaleSession();
         run(make, then, false);
     });
     job->start();

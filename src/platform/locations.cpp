@@ -24,4 +24,9 @@ QString stateFolder()
     return (QDir::isAbsolutePath(given) ? given : QDir::homePath() + u"/.local/state"_s) + u"/Vexal"_s;
 }
 
+QString runtimeFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
 } // namespace vexal

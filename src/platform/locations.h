@@ -13,4 +13,8 @@ QString downloadsFolder();
 /// The folder of what the program remembers of its own use: "Vexal" in the person's state folder. It may not exist yet.
 QString stateFolder();
 
+/// The folder for sockets and the like, which nobody but the person can open, and which lasts as long as they are
+/// logged in.
+QString runtimeFolder();
+
 } // namespace vexal

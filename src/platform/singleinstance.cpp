@@ -1,20 +1,27 @@
 #include "singleinstance.h"
 
+#include "meetingsocket.h"
+
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QVariantMap>
 
-#include <chrono>
-
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace vexal {
 
 namespace {
 
 constexpr auto interfaceName = "org.freedesktop.Application"_L1;
+constexpr std::chrono::milliseconds patience = 5s; ///< For the first start to take what a later one hands over.
+
+QList<QUrl> urlsFrom(const QStringList &uris)
+{
+    return {uris.cbegin(), uris.cend()};
+}
 
 } // namespace
 
@@ -34,13 +41,7 @@ public:
 public Q_SLOTS:
     void Activate(const QVariantMap &) { Q_EMIT m_instance.activated(); }
 
-    void Open(const QStringList &uris, const QVariantMap &)
-    {
-        QList<QUrl> urls;
-        for (const QString &uri : uris)
-            urls += QUrl(uri);
-        Q_EMIT m_instance.opened(urls);
-    }
+    void Open(const QStringList &uris, const QVariantMap &) { Q_EMIT m_instance.opened(urlsFrom(uris)); }
 
     void ActivateAction(const QString &, const QVariantList &, const QVariantMap &) { Q_EMIT m_instance.activated(); }
 
@@ -48,18 +49,23 @@ private:
     SingleInstance &m_instance;
 };
 
-SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applicationId, QObject *parent)
+SingleInstance::SingleInstance(const QDBusConnection &bus, const QString &applicationId, const QString &folder,
+                               QObject *parent)
     : QObject(parent)
     , m_bus(bus)
     , m_id(applicationId)
+    , m_folder(folder)
 {
     new ApplicationInterface(*this);
 }
 
 SingleInstance::Role SingleInstance::claim(const QList<QUrl> &urls)
 {
-    if (!m_bus.isConnected())
-        return Role::Alone;
+    return m_bus.isConnected() ? claimOnBus(urls) : claimInFolder(urls);
+}
+
+SingleInstance::Role SingleInstance::claimOnBus(const QList<QUrl> &urls)
+{
     // The object comes first: whoever sees the name may call at once.
     m_bus.registerObject(path(), this, QDBusConnection::ExportAdaptors);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply = m_bus.interface()->registerService(
@@ -80,7 +86,27 @@ void SingleInstance::handOver(const QList<QUrl> &urls)
     if (!urls.isEmpty())
         call << QUrl::toStringList(urls, QUrl::FullyEncoded);
     call << QVariantMap{};
-    m_bus.call(call, QDBus::Block, int(std::chrono::milliseconds(std::chrono::seconds(5)).count()));
+    m_bus.call(call, QDBus::Block, int(patience.count()));
+}
+
+SingleInstance::Role SingleInstance::claimInFolder(const QList<QUrl> &urls)
+{
+    auto *socket = new MeetingSocket(m_folder, m_id, this);
+    connect(socket, &MeetingSocket::heard, this, [this](const QStringList &uris) {
+        if (uris.isEmpty())
+            Q_EMIT activated();
+        else
+            Q_EMIT opened(urlsFrom(uris));
+    });
+    switch (socket->openOrTell(QUrl::toStringList(urls, QUrl::FullyEncoded), patience)) {
+    case MeetingSocket::Outcome::Opened:
+        return Role::First;
+    case MeetingSocket::Outcome::Delivered:
+        return Role::Second;
+    case MeetingSocket::Outcome::Unreachable:
+        break;
+    }
+    return Role::Alone;
 }
 
 QString SingleInstance::path() const

@@ -8,7 +8,7 @@
 namespace vexal {
 
 /// Sees to it that a person has one Vexal: the first start answers to the application id on the session bus, every
-/// later one hands its URLs over and ends.
+/// later one hands its URLs over and ends. Where there is no session bus, they meet in a folder instead.
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -17,10 +17,12 @@ public:
     enum class Role {
         First,  ///< This is the one.
         Second, ///< The URLs went to the first, or wait in its queue: end.
-        Alone,  ///< There is no session bus to meet on.
+        Alone,  ///< There is nowhere to meet.
     };
 
-    SingleInstance(const QDBusConnection &bus, const QString &applicationId, QObject *parent = nullptr);
+    /// `folder` is one that nobody but the person can open, such as runtimeFolder().
+    SingleInstance(const QDBusConnection &bus, const QString &applicationId, const QString &folder,
+                   QObject *parent = nullptr);
 
     /// Claims the application id or, where it is taken, hands `urls` over, waiting at most five seconds for an answer.
     Role claim(const QList<QUrl> &urls);
@@ -33,11 +35,14 @@ Q_SIGNALS:
     void activated();
 
 private:
+    Role claimOnBus(const QList<QUrl> &urls);
+    Role claimInFolder(const QList<QUrl> &urls);
     QString path() const;
     void handOver(const QList<QUrl> &urls);
 
     QDBusConnection m_bus;
     QString m_id;
+    QString m_folder;
 };
 
 } // namespace vexal

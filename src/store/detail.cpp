@@ -1,6 +1,7 @@
 #include "api.h"
 #include "change.h"
 #include "document.h"
+#include "inbackground.h"
 
 #include <algorithm>
 
@@ -28,29 +29,50 @@ void Store::fetchDetail(const QString &fileId, QObject *context, const Hold &unt
 {
     const auto tag = m_fileTags.constFind(fileId);
     const auto held = tag == m_fileTags.cend() ? std::nullopt : std::optional(*tag);
+    const Hold both = std::make_shared<const std::pair<Hold, Hold>>(until, fetching(fileId));
     askForChanges({.path = pathOf(fileId), .entityTag = held}, m_details.contains(fileId), context,
-                  [this, fileId, until, asked = ++m_number](const Result<Response> &answer) {
+                  [=, this, asked = ++m_number](const Result<Response> &answer) {
                       if (answer)
-                          detailAnswered(fileId, *answer, asked);
+                          detailAnswered(fileId, *answer, asked, context, both);
                       else
                           detailFailed(fileId, answer.failure());
                   });
 }
 
-/// Takes the detail with its tag, unless what is held was asked for, or changed here, after it.
-void Store::detailAnswered(const QString &fileId, const Response &answer, quint64 asked)
+/// The file's detail is on its way until the last copy of what is returned has gone.
+Hold Store::fetching(const QString &fileId)
 {
-    if (answer.unchanged() || asked < m_detailSet.value(fileId) || m_writing.contains(fileId))
+    m_fetching.append(fileId);
+    return holdUntil(inThisSession([this, fileId] { m_fetching.removeOne(fileId); }));
+}
+
+void Store::detailAnswered(const QString &fileId, const Response &answer, quint64 asked, QObject *context,
+                           const Hold &until)
+{
+    if (answer.unchanged())
         return;
-    const auto detail = documentIn<FileDetail>(answer, pathOf(fileId));
-    if (!detail)
-        return detailFailed(fileId, Failure::other());
+    const auto read = [answer, path = pathOf(fileId)] { return documentIn<FileDetail>(answer, path); };
+    const auto taken = [this, fileId, tag = answer.entityTag(), asked, until](const std::optional<FileDetail> &detail) {
+        if (detail)
+            detailArrived(fileId, *detail, tag, asked);
+        else
+            detailFailed(fileId, Failure::other());
+    };
+    inBackground(context, read, inThisSession(taken));
+}
+
+/// Takes the detail with its tag, unless what is held was asked for, or changed here, after it.
+void Store::detailArrived(const QString &fileId, const FileDetail &detail, const std::optional<QString> &tag,
+                          quint64 asked)
+{
+    if (asked < m_detailSet.value(fileId) || m_writing.contains(fileId))
+        return;
     Change change(*this);
     change.remove(m_detailProblems, fileId, &Store::detailProblemsChanged);
-    takeDetail(fileId, *detail);
+    takeDetail(fileId, detail);
     m_detailSet[fileId] = asked;
     forgetTag(fileId);
-    if (const auto tag = answer.entityTag())
+    if (tag)
         m_fileTags.insert(fileId, *tag);
 }
 

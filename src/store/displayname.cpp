@@ -21,7 +21,7 @@ QString displayName(const std::optional<QString> &email, const BoardState *board
             return firstName(*person);
     }
     const QStringList pieces = email->split(u'@', Qt::SkipEmptyParts);
-    return pieces.isEmpty() ? *email : capitalised(pieces.first());
+    return pieces.isEmpty() ? *email : capitalised(shownText(pieces.first()));
 }
 
 QString capitalised(const QString &text)

@@ -7,7 +7,8 @@
 
 namespace vexal {
 
-/// The record that an answer to `path` holds. None when it does not decode, which the log is told.
+/// The record that an answer to `path` holds. None when it does not decode, which the log is told. May be
+/// called in any thread.
 template <Record R>
 std::optional<R> documentIn(const Response &answer, const QString &path)
 {

@@ -79,19 +79,6 @@ QString Store::relativeTime(const QDateTime &moment) const
     return vexal::relativeTime(moment, m_clock);
 }
 
-QString modeName(CompareMode mode)
-{
-    switch (mode) {
-    case CompareMode::Side:
-        return u"side"_s;
-    case CompareMode::Overlay:
-        return u"overlay"_s;
-    case CompareMode::Blink:
-        return u"blink"_s;
-    }
-    Q_UNREACHABLE();
-}
-
 QString modeLabel(CompareMode mode)
 {
     switch (mode) {

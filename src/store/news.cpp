@@ -1,5 +1,7 @@
 #include "news.h"
 
+#include "derived.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -23,8 +25,8 @@ QString fullName(const QString &email, const QList<Person> &users)
 QString told(const Event &event, const QList<Person> &users)
 {
     if (isOfWorker(event))
-        return event.text.value_or(u"Something new came in."_s);
-    return fullName(*event.by, users) + u": "_s + event.text.value_or(u"made a change"_s);
+        return shownText(event.text.value_or(u"Something new came in."_s));
+    return shownText(fullName(*event.by, users)) + u": "_s + shownText(event.text.value_or(u"made a change"_s));
 }
 
 } // namespace

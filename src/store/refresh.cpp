@@ -1,6 +1,7 @@
 #include "api.h"
 #include "change.h"
 #include "document.h"
+#include "inbackground.h"
 #include "launcherbadge.h"
 #include "news.h"
 #include "notifications.h"
@@ -59,13 +60,23 @@ void Store::refreshNow()
 
 void Store::boardAnswered(const Response &answer, quint64 asked, const Hold &until)
 {
-    Change change(*this);
-    if (!answer.unchanged()) {
-        auto board = documentIn<BoardState>(answer, u"api/state"_s);
+    if (answer.unchanged())
+        return boardKnown(asked, until);
+    const auto read = [answer] { return documentIn<BoardState>(answer, u"api/state"_s); };
+    const auto taken = [this, tag = answer.entityTag(), asked, until](const std::optional<BoardState> &board) {
         if (!board)
             return boardFailed(Failure::other());
-        boardArrived(std::move(*board), answer.entityTag(), asked);
-    }
+        Change change(*this);
+        boardArrived(*board, tag, asked);
+        boardKnown(asked, until);
+    };
+    inBackground(this, read, inThisSession(taken));
+}
+
+/// The server has answered what its board is, or that it is the one that is held.
+void Store::boardKnown(quint64 asked, const Hold &until)
+{
+    Change change(*this);
     m_boardTaken = std::max(m_boardTaken, asked);
     change.set(m_problem, std::nullopt, &Store::problemChanged);
     change.set(m_lastOK, m_clock.now(), &Store::lastOKChanged);
@@ -76,7 +87,7 @@ void Store::boardAnswered(const Response &answer, quint64 asked, const Hold &unt
 
 /// Takes the board with its tag, unless what is held is newer: a board that was overtaken on its way, or one from
 /// before a change that was made here and that it may not know of.
-void Store::boardArrived(BoardState board, const std::optional<QString> &tag, quint64 asked)
+void Store::boardArrived(const BoardState &board, const std::optional<QString> &tag, quint64 asked)
 {
     const bool overtaken = asked < m_boardTaken && m_board && board.rev < m_board->rev;
     if (overtaken || asked < m_boardWritten || m_writing.contains(QString()))
@@ -85,7 +96,7 @@ void Store::boardArrived(BoardState board, const std::optional<QString> &tag, qu
     m_seenEvent = news.seenEvent;
     if (news.toast)
         tell(news);
-    takeBoard(std::move(board));
+    takeBoard(board);
     m_etag = tag;
 }
 

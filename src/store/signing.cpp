@@ -85,10 +85,14 @@ void Store::signOut(bool expired)
     if (!expired)
         m_world->api.send({.path = u"api/logout"_s, .method = "POST"}, this, [](const Result<Response> &) {});
     m_world->credentials.forget();
-    Change change(*this);
-    clearSession();
-    if (expired)
-        showToast(Failure::signedOut().sentence);
+    {
+        Change change(*this);
+        clearSession();
+        if (expired)
+            showToast(Failure::signedOut().sentence);
+    }
+    if (!expired)
+        Q_EMIT signedOut();
 }
 
 /// Ends the session: what it brought goes, and what it asked for is no longer listened to.
@@ -116,6 +120,7 @@ void Store::clearSession()
     m_fileTags.clear();
     m_detailSet.clear();
     m_writing.clear();
+    m_fetching.clear();
     m_held.clear();
     m_world->badge.show(0);
     m_world->notifications.withdraw();

@@ -2,6 +2,7 @@
 
 #include "change.h"
 #include "credentialstore.h"
+#include "derived.h"
 #include "signin.h"
 #include "surroundings.h"
 
@@ -32,9 +33,8 @@ const FileItem &fileToBeginWith(const QList<FileItem> &files)
 
 qint64 openingPage(const FileDetail &detail)
 {
-    const auto high = std::find_if(detail.findings.cbegin(), detail.findings.cend(),
-                                   [](const Finding &finding) { return finding.severity == "high"_L1; });
-    return high == detail.findings.cend() ? 0 : high->page;
+    const Finding *high = firstHigh(detail);
+    return high ? high->page : 0;
 }
 
 } // namespace

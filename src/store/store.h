@@ -148,6 +148,8 @@ public:
     /// Asks for the detail of the file. One that cannot be had leaves the old one, or `detailProblem`. The selected
     /// file's is given up when another is selected.
     Q_INVOKABLE void loadDetail(const QString &fileId);
+    /// The detail of the file is on its way.
+    bool isFetching(const QString &fileId) const { return m_fetching.contains(fileId); }
     /// Asks for the newest version of the program, and offers it in `update` when it is newer than this one.
     void checkVersion();
     /// Takes the offer of a newer version away.
@@ -254,6 +256,8 @@ Q_SIGNALS:
 
     /// The server has answered the action of that key: it was `taken`, or it failed and what was typed is kept.
     void answered(const QString &key, bool taken);
+    /// The person has signed out. A session that the server ended is not told of here.
+    void signedOut();
 
 private:
     class Change;
@@ -308,11 +312,16 @@ private:
 
     // What arrives.
     void boardAnswered(const Response &answer, quint64 asked, const Hold &until);
-    void boardArrived(BoardState board, const std::optional<QString> &tag, quint64 asked);
+    void boardKnown(quint64 asked, const Hold &until);
+    void boardArrived(const BoardState &board, const std::optional<QString> &tag, quint64 asked);
     void tell(const News &news);
     void boardFailed(const Failure &failure);
     void fetchDetail(const QString &fileId, QObject *context, const Hold &until);
-    void detailAnswered(const QString &fileId, const Response &answer, quint64 asked);
+    void detailAnswered(const QString &fileId, const Response &answer, quint64 asked, QObject *context,
+                        const Hold &until);
+    void detailArrived(const QString &fileId, const FileDetail &detail, const std::optional<QString> &tag,
+                       quint64 asked);
+    Hold fetching(const QString &fileId);
     void detailFailed(const QString &fileId, const Failure &failure);
 
     // What actions are made of.
@@ -362,6 +371,7 @@ private:
     std::unique_ptr<QObject> m_visit;  ///< The same for the selected file; another selection is another visit.
     qint64 m_seenEvent = 0;            ///< The highest event id accounted for.
     QDateTime m_started;               ///< Older events are never announced.
+    QStringList m_fetching;            ///< Each file whose detail is on its way.
     QStringList m_held;                ///< The busy key of each action in flight.
     quint64 m_session = 0;             ///< Which one it is: each sign-out ends one.
 
@@ -375,9 +385,6 @@ private:
 };
 
 using CompareMode = Store::CompareMode;
-
-/// What a mode is called in data: "side", "overlay", "blink".
-QString modeName(CompareMode mode);
 
 /// What the compare control says for a mode: "Side by side", "Overlay", "Blink".
 QString modeLabel(CompareMode mode);

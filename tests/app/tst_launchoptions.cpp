@@ -12,6 +12,7 @@ class LaunchOptionsTest : public QObject
 private Q_SLOTS:
     void withoutAShotNothingIsAsked();
     void aShotThatStandsLastCountsAsNotGiven();
+    void urlsOfOurSchemeAreTakenFromTheArguments();
     void everyFlagIsRead();
     void flagsAreComparedExactly();
     void theValueFollowsTheFirstOccurrence();
@@ -31,6 +32,15 @@ void LaunchOptionsTest::withoutAShotNothingIsAsked()
 void LaunchOptionsTest::aShotThatStandsLastCountsAsNotGiven()
 {
     QVERIFY(!launchOptions({u"--dark"_s, u"--shot"_s}));
+}
+
+void LaunchOptionsTest::urlsOfOurSchemeAreTakenFromTheArguments()
+{
+    const QString callback = u"vexal://signed-in?state=A%2BB&code=4%2F0Ad"_s;
+    const QList<QUrl> urls = urlsIn({u"-ServerURL"_s, u"http://127.0.0.1:8123"_s, callback, u"vexal"_s, u"other://x"_s,
+                                     QString(), u"VEXAL:second"_s});
+    QCOMPARE(QUrl::toStringList(urls, QUrl::FullyEncoded), (QStringList{callback, u"vexal:second"_s}));
+    QCOMPARE(urlsIn({}), QList<QUrl>());
 }
 
 void LaunchOptionsTest::everyFlagIsRead()

@@ -1,8 +1,10 @@
 #include "appearance.h"
 #include "desktoplook.h"
 #include "livestore.h"
+#include "slowcredentials.h"
 #include "vexalapp.h"
 
+#include <QElapsedTimer>
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
@@ -63,8 +65,11 @@ private Q_SLOTS:
     void aClickOnANotificationOpensItsFile();
     void aNotificationOfAFileThatIsGoneOpensTheWindowAlone();
     void lookingAtTheWindowTakesTheNotificationBack();
+    void aUrlFromOutsideIsTakenAndBringsTheWindowForward();
     void theFirstFrameWaitsForTheDesktopsAnswer();
-    void theFirstFrameDoesNotWaitForLong();
+    void theFirstFrameWaitsForTheKeyringsAnswer();
+    void theFirstFrameWaitsForNeitherForLong();
+    void nothingIsShownToWhoHasGone();
 
 private:
     static void nothing(const QString &, QObject *, const Images::Fetched &fetched) { fetched(std::nullopt); }
@@ -157,6 +162,16 @@ void ShellTest::lookingAtTheWindowTakesTheNotificationBack()
     QTRY_COMPARE(m_live->notifications.told, QStringList());
 }
 
+void ShellTest::aUrlFromOutsideIsTakenAndBringsTheWindowForward()
+{
+    m_live->client.credentials.forget();
+    open();
+    m_app->window().showMinimized();
+    m_app->open({QUrl(u"vexal://elsewhere"_s), QUrl(u"vexal://signed-in"_s)});
+    QVERIFY(!m_app->window().windowStates().testFlag(Qt::WindowMinimized));
+    QCOMPARE(m_app->store().toast()->text, u"Sign-in didn't finish."_s);
+}
+
 void ShellTest::theFirstFrameWaitsForTheDesktopsAnswer()
 {
     SaidLook look;
@@ -171,13 +186,52 @@ void ShellTest::theFirstFrameWaitsForTheDesktopsAnswer()
     QVERIFY(again);
 }
 
-void ShellTest::theFirstFrameDoesNotWaitForLong()
+void ShellTest::theFirstFrameWaitsForTheKeyringsAnswer()
 {
     SaidLook look;
+    look.answer();
+    SlowCredentials keyring;
     QObject context;
     bool open = false;
-    whenKnown(m_live->client.credentials, look, &context, [&open] { open = true; });
-    QTRY_VERIFY(open);
+    whenKnown(keyring, look, &context, [&open] { open = true; });
+    QVERIFY(!open);
+    keyring.answer();
+    QTRY_VERIFY_WITH_TIMEOUT(open, 250); // sooner than it would without an answer
+}
+
+void ShellTest::theFirstFrameWaitsForNeitherForLong()
+{
+    SaidLook look;
+    SlowCredentials keyring;
+    QObject context;
+    QElapsedTimer since;
+    since.start();
+    qint64 waited = 0;
+    whenKnown(keyring, look, &context, [&] { waited = since.elapsed(); });
+    look.answer(); // one of two is not enough to go on
+    QCoreApplication::processEvents();
+    QCOMPARE(waited, 0);
+    QTRY_VERIFY(waited > 0);
+    QVERIFY2(waited >= 280 && waited < 600, qPrintable(QString::number(waited)));
+    waited = 0;
+    keyring.answer();
+    QCoreApplication::processEvents();
+    QCOMPARE(waited, 0); // once is enough
+}
+
+void ShellTest::nothingIsShownToWhoHasGone()
+{
+    SaidLook look;
+    SlowCredentials keyring;
+    bool open = false;
+    {
+        QObject context;
+        whenKnown(keyring, look, &context, [&open] { open = true; });
+    }
+    look.answer();
+    keyring.answer();
+    QCoreApplication::processEvents();
+    QVERIFY(!open);
 }
 
 QTEST_MAIN(ShellTest)

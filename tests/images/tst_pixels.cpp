@@ -2,6 +2,7 @@
 #include "pictures.h"
 #include "pixels.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void whatWasWantedLastStays();
     void aContextThatIsGoneIsToldNothing();
     void whatIsShownIsDecodedBeforeWhatMayBe();
+    void whatNobodyWaitsForIsNotBegun();
+    void whatBecomesUrgentIsMadeOnce();
     void theWorkersAreAwaitedAtTheEnd();
     void bytesThatAreNoPictureGiveNull();
     void equalPagesDifferNowhere();
@@ -163,14 +166,51 @@ void PixelsTest::whatIsShownIsDecodedBeforeWhatMayBe()
 {
     Pixels pixels;
     QList<int> order;
-    // More than the workers take at once, so that a queue forms behind the first ones.
+    QList<Picture> pictures;
     for (int i = 0; i < 12; ++i)
-        pixels.load(picture({900, 900}), {800, 800}, Pixels::Urgency::Ahead, this,
+        pictures.append(picture({900, 900}));
+    const Picture small = picture({100, 100});
+    // More than a worker takes at once, so that a queue forms behind the first ones.
+    for (int i = 0; i < 12; ++i)
+        pixels.load(pictures[i], {800, 800}, Pixels::Urgency::Ahead, this,
                     [&order, i](const QImage &) { order.append(i); });
-    pixels.load(picture({100, 100}), {50, 50}, Pixels::Urgency::Shown, this,
-                [&order](const QImage &) { order.append(100); });
+    pixels.load(small, {50, 50}, Pixels::Urgency::Shown, this, [&order](const QImage &) { order.append(100); });
     QTRY_COMPARE(order.size(), 13);
     QVERIFY2(order.indexOf(100) <= 8, qPrintable(QString::number(order.indexOf(100))));
+}
+
+void PixelsTest::whatNobodyWaitsForIsNotBegun()
+{
+    Pixels pixels;
+    QList<Picture> pictures;
+    for (int i = 0; i < 12; ++i)
+        pictures.append(picture({900, 900}));
+    auto leaving = std::make_unique<QObject>();
+    for (const Picture &picture : pictures)
+        pixels.load(picture, {800, 800}, Pixels::Urgency::Ahead, leaving.get(), [](const QImage &) {});
+    leaving.reset();
+    // The next who asks finds the worker free but for what it had begun.
+    load(pixels, picture({100, 100}), {50, 50});
+    const auto made = [&] {
+        return std::count_if(pictures.cbegin(), pictures.cend(), [&](const Picture &picture) {
+            return !pixels.held(picture, {800, 800}).isNull();
+        });
+    };
+    QVERIFY2(made() <= 8, qPrintable(QString::number(made())));
+}
+
+void PixelsTest::whatBecomesUrgentIsMadeOnce()
+{
+    Pixels pixels;
+    const Picture page = picture({900, 900});
+    int told = 0;
+    for (const auto urgency : {Pixels::Urgency::Ahead, Pixels::Urgency::Shown, Pixels::Urgency::Ahead})
+        pixels.load(page, {800, 800}, urgency, this, [&told](const QImage &image) { told += image.isNull() ? 0 : 1; });
+    QVERIFY(pixels.isBusy());
+    QSignalSpy rested(&pixels, &Pixels::rested);
+    QTRY_COMPARE(told, 3);
+    QCOMPARE(rested.size(), 1);
+    QCOMPARE(pixels.bytes(), 800 * 800 * 4);
 }
 
 void PixelsTest::theWorkersAreAwaitedAtTheEnd()

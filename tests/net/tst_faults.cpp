@@ -69,6 +69,7 @@ private Q_SLOTS:
     void aServerThatNeverAnswers();
     void aServerThatFallsSilentInTheBody();
     void aHeadThatTakesTooLong();
+    void apartFromTestsAByteMayTakeHalfAMinuteAndAHeadAWholeOne();
     void aHeadThatTricklesIsWaitedForThatLong();
     void aBrokenChunk();
     void aBodyThatTricklesIsWaitedFor();
@@ -459,6 +460,12 @@ void FaultsTest::aServerThatComesBackIsReached()
     QVERIFY(!client.send(fetch()));
     client.server.comeUp();
     QVERIFY(client.send(fetch()));
+}
+
+void FaultsTest::apartFromTestsAByteMayTakeHalfAMinuteAndAHeadAWholeOne()
+{
+    QCOMPARE(vexal::Timeouts().idle, std::chrono::seconds(30));
+    QCOMPARE(vexal::Timeouts().head, std::chrono::seconds(60));
 }
 
 QTEST_GUILESS_MAIN(FaultsTest)

@@ -1,5 +1,5 @@
 // One start of the program, as far as there being one of it goes: says what it became and, if it is the one, what was
-// opened into it, until its input ends.
+// opened into it, until its input ends: instance_peer FOLDER [URL...].
 #include "singleinstance.h"
 
 #include <QCoreApplication>
@@ -23,10 +23,11 @@ int main(int count, char **arguments)
 {
     QCoreApplication application(count, arguments);
     QList<QUrl> urls;
-    for (const QString &argument : application.arguments().sliced(1))
+    for (const QString &argument : application.arguments().sliced(2))
         urls += QUrl(argument);
 
-    vexal::SingleInstance instance(QDBusConnection::sessionBus(), u"org.vexal.Test-Peer"_s);
+    vexal::SingleInstance instance(QDBusConnection::sessionBus(), u"org.vexal.Test-Peer"_s,
+                                   QCoreApplication::arguments().at(1));
     QObject::connect(&instance, &vexal::SingleInstance::activated, [] { say(u"activated"_s); });
     QObject::connect(&instance, &vexal::SingleInstance::opened, [](const QList<QUrl> &opened) {
         say("opened "_L1 + QUrl::toStringList(opened, QUrl::FullyEncoded).join(u' '));

@@ -3,7 +3,9 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -13,20 +15,40 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+bool hasBus = true; ///< Whether what is started has a session bus.
+
+/// A folder of nobody else's, as the one that a login gives.
+const QTemporaryDir &folder()
+{
+    static const QTemporaryDir folder;
+    return folder;
+}
+
 /// A start of the program of its own.
 class Peer
 {
 public:
-    explicit Peer(const QStringList &arguments = {})
+    explicit Peer(const QStringList &urls = {}, const QString &meetingPlace = folder().path())
     {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        if (!hasBus)
+            environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+        m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(INSTANCE_PEER), arguments);
+        m_process.start(QStringLiteral(INSTANCE_PEER), QStringList{meetingPlace} + urls);
     }
     ~Peer()
     {
         m_process.closeWriteChannel();
         if (!m_process.waitForFinished(10000))
             m_process.kill();
+    }
+
+    /// Ends it without a chance to tidy up.
+    void crash()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
     }
 
     /// The next line that it says.
@@ -58,15 +80,41 @@ class SingleInstanceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
+    void init();
     void theFirstStartIsTheOne();
     void aSecondStartHandsItsUrlsOverAndEnds();
     void aSecondStartWithoutUrlsBringsTheFirstForward();
     void aUrlArrivesByteForByte();
-    void theDesktopMayOpenUrlsAndActivate();
     void ofTenStartsAtOnceOneIsTheOne();
     void theNextStartIsTheOneWhenTheFirstHasEnded();
-    void withoutABusAProgramIsAlone();
+    void theNextStartIsTheOneWhenTheFirstHasCrashed();
+    void theSocketIsThePersonsAlone();
+    void withNowhereToMeetAProgramIsAlone();
 };
+
+/// The desktop's own calls, which come by the bus alone.
+class DesktopCallsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { hasBus = true; }
+    void theDesktopMayOpenUrlsAndActivate();
+};
+
+void SingleInstanceTest::initTestCase_data()
+{
+    QTest::addColumn<bool>("bus");
+    QTest::newRow("with a session bus") << true;
+    QTest::newRow("without one") << false;
+}
+
+void SingleInstanceTest::init()
+{
+    QFETCH_GLOBAL(const bool, bus);
+    hasBus = bus;
+}
 
 void SingleInstanceTest::theFirstStartIsTheOne()
 {
@@ -100,7 +148,7 @@ void SingleInstanceTest::aUrlArrivesByteForByte()
     QCOMPARE(first.says(), "opened "_L1 + url);
 }
 
-void SingleInstanceTest::theDesktopMayOpenUrlsAndActivate()
+void DesktopCallsTest::theDesktopMayOpenUrlsAndActivate()
 {
     Peer first;
     QCOMPARE(first.says(), u"first"_s);
@@ -138,18 +186,38 @@ void SingleInstanceTest::theNextStartIsTheOneWhenTheFirstHasEnded()
     QCOMPARE(Peer().says(), u"first"_s);
 }
 
-void SingleInstanceTest::withoutABusAProgramIsAlone()
+void SingleInstanceTest::theNextStartIsTheOneWhenTheFirstHasCrashed()
 {
-    vexal::SingleInstance instance(QDBusConnection(u"none"_s), u"org.vexal.Test"_s);
-    QCOMPARE(instance.claim({}), vexal::SingleInstance::Role::Alone);
+    Peer first;
+    QCOMPARE(first.says(), u"first"_s);
+    first.crash();
+    Peer next;
+    QCOMPARE(next.says(), u"first"_s);
+    QCOMPARE(Peer({u"vexal://a"_s}).says(), u"second"_s);
+    QCOMPARE(next.says(), u"opened vexal://a"_s);
+}
+
+void SingleInstanceTest::theSocketIsThePersonsAlone()
+{
+    Peer first;
+    QCOMPARE(first.says(), u"first"_s);
+    const QFileInfo socket(folder().filePath(u"org.vexal.Test-Peer.socket"_s));
+    QCOMPARE(socket.exists(), !hasBus); // where there is a bus, they meet there alone
+    QVERIFY(!(socket.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)));
+}
+
+void SingleInstanceTest::withNowhereToMeetAProgramIsAlone()
+{
+    QCOMPARE(Peer({}, folder().filePath(u"missing"_s)).says(), hasBus ? u"first"_s : u"alone"_s);
 }
 
 int main(int count, char **arguments)
 {
     QCoreApplication application(count, arguments);
     PrivateBus bus;
-    SingleInstanceTest test;
-    return QTest::qExec(&test, count, arguments);
+    SingleInstanceTest starts;
+    DesktopCallsTest desktop;
+    return QTest::qExec(&starts, count, arguments) | QTest::qExec(&desktop, count, arguments);
 }
 
 #include "tst_singleinstance.moc"

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace vexal;
 
@@ -34,6 +36,15 @@ QSize sizeOf(const std::optional<QList<double>> &px)
     return px && px->size() == 2 ? QSizeF(px->at(0), px->at(1)).toSize() : QSize();
 }
 
+bool meet(const Finding &one, const Finding &other)
+{
+    const QList<QRectF> places = placesOf(other);
+    const QList<QRectF> own = placesOf(one);
+    return std::any_of(own.begin(), own.end(), [&places](const QRectF &place) {
+        return std::any_of(places.begin(), places.end(), [&place](const QRectF &at) { return at.intersects(place); });
+    });
+}
+
 } // namespace
 
 class PicturesTest : public QObject
@@ -46,6 +57,7 @@ private Q_SLOTS:
     void everyPictureIsThereInTheSizeThatIsTold();
     void noPictureLiesThereUnnamed();
     void aKeyHoldsNoUnderscore();
+    void noFindingLiesInThePlaceOfAnother();
     void theProofDiffersInsideTheBoxesAndNowhereElse_data();
     void theProofDiffersInsideTheBoxesAndNowhereElse();
     void theScanIsAskewAndGrainy();
@@ -130,6 +142,21 @@ void PicturesTest::aKeyHoldsNoUnderscore()
             QVERIFY(!page.img->contains(u'_') && !page.thumb->contains(u'_'));
             for (const RefPage &ref : page.refs.value_or(QMap<QString, RefPage>()))
                 QVERIFY(!ref.img->contains(u'_'));
+        }
+    }
+}
+
+// Else what differs in one's box could be the other's, and a box without a difference of its own would pass.
+void PicturesTest::noFindingLiesInThePlaceOfAnother()
+{
+    for (const FileDetail &detail : m_folder.all()) {
+        for (qsizetype i = 0; i < detail.findings.size(); ++i) {
+            for (qsizetype j = 0; j < i; ++j) {
+                const Finding &one = detail.findings.at(i);
+                const Finding &other = detail.findings.at(j);
+                if (one.page == other.page && one.against == other.against)
+                    QVERIFY2(!meet(one, other), qPrintable(one.title + u" / "_s + other.title));
+            }
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "livestore.h"
+#include "slowcredentials.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -13,24 +14,6 @@ const QString expired = u"You're signed out. Sign in again."_s;
 
 const QJsonObject exchanged{{u"token"_s, u"fresh"_s},
                             {u"me"_s, QJsonObject{{u"email"_s, u"ada@lanternhouse.example"_s}, {u"name"_s, u"Ada"_s}}}};
-
-/// A credential store that needs its time.
-class SlowCredentials : public CredentialStore
-{
-public:
-    QString token() const override { return m_known ? u"token"_s : QString(); }
-    bool known() const override { return m_known; }
-    void store(const QString &, QObject *, std::function<void()>) override {}
-    void forget() override {}
-    void answer()
-    {
-        m_known = true;
-        Q_EMIT becameKnown();
-    }
-
-private:
-    bool m_known = false;
-};
 
 } // namespace
 

@@ -21,7 +21,7 @@ class Screen
 {
 public:
     /// Shows the QML document in a window of the size, with the store and the pictures that the fetch gives.
-    Screen(Store &store, const QByteArray &qml, QSize size, Images::Fetch fetch = nothing)
+    Screen(Store &store, const QByteArray &qml, QSize size, Images::Fetch fetch = Images::fetchNothing)
         : m_images(QString(), std::move(fetch))
         , m_window(&m_engine, nullptr)
     {
@@ -85,8 +85,6 @@ public:
     }
 
 private:
-    static void nothing(const QString &, QObject *, const Images::Fetched &fetched) { fetched(std::nullopt); }
-
     static void collect(QQuickItem *item, const QByteArray &type, QList<QQuickItem *> &found)
     {
         if (!item || !item->isVisible())

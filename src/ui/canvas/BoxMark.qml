@@ -18,6 +18,46 @@ Item {
 
     z: root.mark.layer
 
+    // The lines lie on whole pixels, so that all four sides look the same.
+    function onPixelGrid(points: real): real {
+        return Math.round(points * Screen.devicePixelRatio) / Screen.devicePixelRatio;
+    }
+    component Outline: StrokedBox {
+        required property rect place
+        /// Where the item in which it stands lies on the page.
+        property point origin
+        x: root.onPixelGrid(place.x) - origin.x
+        y: root.onPixelGrid(place.y) - origin.y
+        width: root.onPixelGrid(place.width)
+        height: root.onPixelGrid(place.height)
+    }
+
+    // The grounds, then what sets the lines off from any paper, then the lines: none is cut where two boxes meet.
+    Repeater {
+        model: root.mark.boxes
+        Rectangle {
+            required property rect modelData
+            readonly property rect place: CanvasGeometry.boxOnPane(modelData, root.width, root.height)
+            x: place.x
+            y: place.y
+            width: place.width
+            height: place.height
+            radius: 3
+            color: root.tone
+            opacity: 0.1
+        }
+    }
+    Repeater {
+        model: root.mark.boxes
+        Outline {
+            required property rect modelData
+            objectName: "halo"
+            place: CanvasGeometry.boxOnPane(modelData, root.width, root.height)
+            line: root.mark.selected ? 5 : 4
+            color: Theme.paper
+            opacity: 0.9
+        }
+    }
     Repeater {
         model: root.mark.boxes
 
@@ -49,31 +89,10 @@ Item {
                     root.reached();
             }
 
-            Rectangle {
-                anchors.fill: parent
-                radius: 3
-                color: root.tone
-                opacity: 0.1
-            }
-            // The lines lie on whole pixels, so that all four sides look the same.
-            Item {
-                id: lines
-                function onPixelGrid(points: real): real {
-                    return Math.round(points * Screen.devicePixelRatio) / Screen.devicePixelRatio;
-                }
-                x: lines.onPixelGrid(box.x) - box.x
-                y: lines.onPixelGrid(box.y) - box.y
-                width: lines.onPixelGrid(box.width)
-                height: lines.onPixelGrid(box.height)
-            }
-            StrokedBox {
-                anchors.fill: lines
-                line: root.mark.selected ? 5 : 4
-                color: "white"
-                opacity: 0.9
-            }
-            StrokedBox {
-                anchors.fill: lines
+            Outline {
+                objectName: "line"
+                place: box.place
+                origin: Qt.point(box.x, box.y)
                 line: root.mark.selected || root.hovers > 0 ? 2.4 : 1.6
                 color: root.tone
             }

@@ -12,7 +12,7 @@ Item {
     required property Blending blending
     readonly property comparison comparison: root.state.comparison
     readonly property bool overlaid: Store.mode === Store.Overlay
-    readonly property int inset: 18
+    readonly property int inset: Theme.canvasSide
     readonly property int gap: 12
     readonly property bool wraps: choice.width + (blend.visible ? root.gap + blend.width : 0) + root.gap + turning.width + 2 * root.inset > root.width
     readonly property int rowHeight: 44

@@ -17,9 +17,13 @@ FocusScope {
     /// How long either page stands while they alternate, in milliseconds.
     readonly property int blinkTime: 700
     readonly property string file: root.state.file
+    /// The pages that are to be seen are there.
+    readonly property bool shown: supplier.ready && (ours.ready || !ours.visible || ours.missing !== "")
     readonly property alias blending: blending
     readonly property alias blink: blink
 
+    // Nor is anything in here asked about a pointer that is elsewhere.
+    clip: true
     onFileChanged: {
         blending.reset();
         zoom.fit();
@@ -38,7 +42,7 @@ FocusScope {
         page: supplier.page
         pixels: root.comparison.supplier.pixels.width > 0 ? root.comparison.supplier.pixels : supplier.pixels
         devicePixelRatio: Screen.devicePixelRatio
-        foot: loupe.open ? loupe.height + 10 : 0
+        foot: root.state.closeup.open ? loupe.height + 10 : 0
         mark: root.state.closeup.open ? root.state.closeup.place : Qt.rect(0, 0, -1, -1)
     }
     CanvasActions {
@@ -107,7 +111,7 @@ FocusScope {
         }
 
         component Hand: PaneHand {
-            y: 22
+            y: Theme.labelRow
             z: 1
             width: desk.box.width
             height: desk.box.height
@@ -118,8 +122,8 @@ FocusScope {
 
         Pane {
             id: supplier
-            x: 18
-            y: 14
+            x: Theme.canvasSide
+            y: Theme.canvasFoot
             visible: root.any
             box: desk.box
             view: root.comparison.supplier
@@ -154,8 +158,8 @@ FocusScope {
         }
         Pane {
             id: ours
-            x: 18 + desk.box.width + 18
-            y: 14
+            x: supplier.x + desk.box.width + Theme.canvasSide
+            y: Theme.canvasFoot
             visible: root.any && root.beside
             box: desk.box
             view: root.comparison.ours
@@ -166,13 +170,13 @@ FocusScope {
         }
         Hand {
             x: supplier.x
-            y: supplier.y + 22
+            y: supplier.y + Theme.labelRow
             visible: supplier.visible
             page: supplier.page
         }
         Hand {
             x: ours.x
-            y: ours.y + 22
+            y: ours.y + Theme.labelRow
             visible: ours.visible
             page: ours.page
         }
@@ -181,23 +185,29 @@ FocusScope {
             box: desk.box
             single: !root.beside
             difference: root.subtracting
-            active: supplier.ready && (ours.ready || !ours.visible || ours.missing !== "")
+            active: root.shown
         }
-        ZoomPill {
-            anchors.right: parent.right
-            anchors.rightMargin: 18
-            y: 9
-            visible: root.any && zoom.zoomed
-            zoom: zoom
+        When {
+            active: root.any && zoom.zoomed
+            ZoomPill {
+                x: desk.width - width - Theme.canvasSide
+                y: 9
+                zoom: zoom
+            }
         }
-        Capsule {
-            x: supplier.x + supplier.sheet.x + (supplier.sheet.width - width) / 2
-            y: Math.min(supplier.y + 22 + supplier.sheet.y + supplier.sheet.height, desk.height - 14 - zoom.foot) - height - 18
-            visible: root.any && Store.pinning
-            icon: "hand.point.up.left.fill"
-            text: "Click the page"
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+        When {
+            active: root.any && Store.pinning
+            Capsule {
+                // Under the page where there is room, so that nothing of it is covered; else at its foot.
+                readonly property real pageEnd: supplier.y + Theme.labelRow + supplier.sheet.y + supplier.sheet.height
+                readonly property real end: desk.height - Theme.canvasFoot - zoom.foot
+                x: supplier.x + supplier.sheet.x + (supplier.sheet.width - width) / 2
+                y: pageEnd + 10 + height <= end ? pageEnd + 10 : Math.min(pageEnd, end) - height - 18
+                icon: "hand.point.up.left.fill"
+                text: "Click the page"
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
         }
         Label {
             anchors.centerIn: parent
@@ -205,14 +215,25 @@ FocusScope {
             text: "No pages in this file."
             color: Theme.secondary
         }
-        Loupe {
+        Item {
             id: loupe
             x: 28
             y: desk.height - height - 24
             z: 2
             width: desk.width - 56
-            closeup: root.state.closeup
-            onClosed: Actions.close.trigger()
+            height: CanvasGeometry.loupeHeight(width - 24) + 24
+
+            Kept {
+                id: lens
+                wanted: root.state.closeup.open
+                Loupe {
+                    width: loupe.width
+                    height: loupe.height
+                    open: lens.open
+                    closeup: root.state.closeup
+                    onClosed: Actions.close.trigger()
+                }
+            }
         }
         FocusRing {
             anchors.margins: 2

@@ -69,28 +69,30 @@ Item {
             stepped: true
             key: root.key
         }
+        component Outline: StrokedBox {
+            required property rect modelData
+            readonly property rect place: CanvasGeometry.boxOnCrop(modelData, root.page)
+            x: place.x
+            y: place.y
+            width: place.width
+            height: place.height
+        }
+
+        // Under the lines of all boxes, so that none is cut where two of them meet.
         Repeater {
             model: root.missing === "" ? root.boxes : []
-            Item {
-                id: box
-                required property rect modelData
-                readonly property rect place: CanvasGeometry.boxOnCrop(box.modelData, root.page)
+            Outline {
+                line: 4
+                color: Theme.paper
+                opacity: 0.9
+            }
+        }
+        Repeater {
+            model: root.missing === "" ? root.boxes : []
+            Outline {
                 objectName: "cropBox"
-                x: box.place.x
-                y: box.place.y
-                width: box.place.width
-                height: box.place.height
-                StrokedBox {
-                    anchors.fill: parent
-                    line: 4
-                    color: "white"
-                    opacity: 0.9
-                }
-                StrokedBox {
-                    anchors.fill: parent
-                    line: 1.6
-                    color: root.color
-                }
+                line: 1.6
+                color: root.color
             }
         }
         Label {

@@ -39,7 +39,8 @@ Item {
         }
     }
     Capsule {
-        x: 17
+        // On whichever side of the pin the page has room for it.
+        x: root.x + 17 + width > root.parent.width && root.x > 17 + width ? -17 - width : 17
         y: -29
         icon: "mappin.and.ellipse"
         text: "Note"

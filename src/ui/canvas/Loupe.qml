@@ -10,12 +10,11 @@ Item {
     required property closeup closeup
     /// The last one that was open: it stays while the loupe fades.
     property closeup shown
-    readonly property bool open: root.closeup.open
+    required property bool open
     readonly property real crops: root.width - 24
 
     signal closed
 
-    height: CanvasGeometry.loupeHeight(root.crops) + 24
     visible: root.opacity > 0
     enabled: root.open
     opacity: root.open ? 1 : 0

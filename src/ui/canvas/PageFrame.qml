@@ -20,8 +20,10 @@ Item {
 
     /// Only ours is to be seen.
     readonly property bool covered: root.over !== "" && root.overOpacity >= 1 && !root.difference
+    /// Only what differs is.
+    readonly property bool subtracting: root.over !== "" && root.difference
     /// What is to be seen is there.
-    readonly property bool ready: root.covered ? ours.hasPicture : picture.hasPicture && (root.over === "" || root.difference || ours.hasPicture)
+    readonly property bool ready: root.subtracting ? subtracted.hasPicture : root.covered ? ours.hasPicture : picture.hasPicture && (root.over === "" || ours.hasPicture)
     readonly property size pixels: picture.pixels
 
     Accessible.role: Accessible.Graphic
@@ -51,6 +53,7 @@ Item {
             height: root.page.height
             opacity: root.covered ? 0 : 1
             stepped: root.zoomed
+            ahead: root.covered || root.subtracting
             key: root.key
         }
         RemoteImage {
@@ -62,17 +65,19 @@ Item {
             opacity: root.difference ? 0 : root.overOpacity
             stretch: true
             stepped: root.zoomed
+            ahead: opacity === 0
             key: root.over
         }
         RemoteImage {
+            id: subtracted
             x: root.page.x
             y: root.page.y
             width: root.page.width
             height: root.page.height
             stretch: true
             stepped: root.zoomed
-            key: root.difference && root.over !== "" ? root.key : ""
-            difference: root.difference ? root.over : ""
+            key: root.subtracting ? root.key : ""
+            difference: root.subtracting ? root.over : ""
         }
     }
     Rectangle {

@@ -39,7 +39,7 @@ Item {
     }
 
     width: root.box.width
-    height: root.box.height + 22
+    height: root.box.height + Theme.labelRow
 
     QtObject {
         id: at
@@ -80,7 +80,7 @@ Item {
     PageFrame {
         id: frame
         x: root.sheet.x
-        y: 22 + root.sheet.y
+        y: Theme.labelRow + root.sheet.y
         width: root.sheet.width
         height: root.sheet.height
         visible: root.missing === ""
@@ -92,15 +92,17 @@ Item {
         overOpacity: root.overOpacity
         difference: root.difference
     }
-    NoRef {
-        y: 22
-        width: root.page.width
-        height: root.page.height
-        visible: root.missing !== ""
-        heading: root.missing
+    When {
+        active: root.missing !== ""
+        NoRef {
+            y: Theme.labelRow
+            width: root.page.width
+            height: root.page.height
+            heading: root.missing
+        }
     }
     Item {
-        y: 22
+        y: Theme.labelRow
         width: root.box.width
         height: root.box.height
         clip: root.cut

@@ -65,18 +65,6 @@ QString roleChosen(const QStringList &offered, const QString &wanted)
     return offered.first();
 }
 
-qreal referenceAspect(const RefPage &reference, qreal supplierAspect)
-{
-    const auto &px = reference.px;
-    return px && px->size() == 2 && px->at(1) > 0 ? px->at(0) / px->at(1) : supplierAspect;
-}
-
-QString supplierName(const FileItem &file)
-{
-    const QString supplier = file.supplier.value_or(QString());
-    return supplier.isEmpty() ? u"Supplier"_s : supplier;
-}
-
 QString supplierPaneLabel(const FileItem &file, const Page &page)
 {
     return supplierName(file) + u" file · p"_s + pageLabel(page);
@@ -114,11 +102,6 @@ QSizeF fittedPage(QSizeF box, qreal aspect)
 bool drawnOn(const Finding &finding, qint64 page, const QString &role)
 {
     return finding.page == page && (finding.against == role || finding.kind == "hidden"_L1);
-}
-
-bool isQuiet(const Finding &finding)
-{
-    return finding.state == "fine"_L1 || finding.kind == "pass"_L1 || finding.kind == "expected"_L1;
 }
 
 QRectF boxOnPane(const Box &box, QSizeF pane)

@@ -19,11 +19,6 @@ QStringList rolesOffered(const Page &page);
 /// The role a page is compared with: the wanted one when it is offered, else the first that is, else the wanted one.
 QString roleChosen(const QStringList &offered, const QString &wanted);
 
-/// Width over height of our page: of its picture's pixels, or that of the supplier's page where those are not known.
-qreal referenceAspect(const RefPage &reference, qreal supplierAspect);
-
-/// Who the file came from: "Ostrel Print"; "Supplier" when nobody is named.
-QString supplierName(const FileItem &file);
 /// "Ostrel Print file · p7"; "Supplier file · p7" for a file without one.
 QString supplierPaneLabel(const FileItem &file, const Page &page);
 
@@ -56,9 +51,6 @@ qreal loupeHeight(qreal width);
 /// Whether a finding is drawn on the supplier's page while that is compared with a role: its own role's findings, and
 /// text hidden under the art, which depends on no file of ours.
 bool drawnOn(const Finding &finding, qint64 page, const QString &role);
-
-/// A finding that asks for nothing: judged fine, passed or expected.
-bool isQuiet(const Finding &finding);
 
 /// The rectangle that marks a box on a page of this size in points: 3 outside on every side, never under 8 by 8. Null
 /// for a list that is no box.

@@ -19,7 +19,7 @@ QSizeF pixelsOf(const std::optional<QList<double>> &px)
 
 PaneView paneOfOurs(const RefPage &reference, const QString &role, qreal supplierAspect)
 {
-    return {reference.img.value_or(QString()), referenceAspect(reference, supplierAspect), roleLabel(role),
+    return {reference.img.value_or(QString()), aspect(reference, supplierAspect), roleLabel(role),
             pixelsOf(reference.px)};
 }
 
@@ -110,7 +110,7 @@ QList<BoxMark> boxMarks(const FileDetail &detail, qint64 index, const QString &r
             continue;
         const QList<QRectF> boxes = boxesOf(finding);
         if (!boxes.isEmpty())
-            marks.append({finding.id, finding.title, boxes, toneOf(finding), finding.id == focus});
+            marks.append({finding.id, shownText(finding.title), boxes, toneOf(finding), finding.id == focus});
     }
     return marks;
 }
@@ -141,8 +141,11 @@ QList<PinMark> pinMarks(const QList<Note> &notes, qint64 page)
     QList<PinMark> pins;
     for (const Note &note : notes) {
         if (note.page == page && note.x && note.y && note.resolved.value_or(0) == 0)
-            pins.append(
-                {note.id, numbers.value(note.id), {*note.x, *note.y}, note.text, note.finding_id.value_or(QString())});
+            pins.append({note.id,
+                         numbers.value(note.id),
+                         {*note.x, *note.y},
+                         shownText(note.text),
+                         note.finding_id.value_or(QString())});
     }
     return pins;
 }
@@ -163,7 +166,7 @@ Closeup closeupOf(const FileDetail &detail, qint64 index, const QString &role, c
     const QString ourRole = rolesOffered(page).contains(finding->against) ? finding->against : role;
     Closeup closeup;
     closeup.finding = finding->id;
-    closeup.title = finding->title;
+    closeup.title = shownText(finding->title);
     closeup.tone = toneOf(*finding);
     closeup.place = boxes.first();
     closeup.supplier = paneOfSupplier(detail.file, page);

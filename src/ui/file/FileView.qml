@@ -11,7 +11,17 @@ FocusScope {
     id: root
 
     required property FileState state
+    /// What lies around the pages stands too: in a new window it follows the first frame, which is theirs.
+    property bool complete: false
 
+    Component.onCompleted: root.complete = root.Window.window?.visible ?? false
+    Connections {
+        target: root.Window.window
+        enabled: !root.complete
+        function onFrameSwapped() {
+            root.complete = true;
+        }
+    }
     FileHeader {
         id: header
         width: parent.width
@@ -36,12 +46,21 @@ FocusScope {
         visible: root.state.problem.length > 0
         state: root.state
     }
-    PageStrip {
+    Item {
         id: strip
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: beside.left
-        state: root.state
+        height: 96
+
+        When {
+            active: root.complete
+            PageStrip {
+                width: strip.width
+                height: strip.height
+                state: root.state
+            }
+        }
     }
     Rule {
         id: beside
@@ -50,13 +69,22 @@ FocusScope {
         anchors.right: inspector.left
         upright: true
     }
-    Inspector {
+    Rectangle {
         id: inspector
         anchors.top: rule.bottom
         anchors.bottom: parent.bottom
         anchors.right: parent.right
         width: 330
-        state: page
+        color: Theme.window
+
+        When {
+            active: root.complete
+            Inspector {
+                width: inspector.width
+                height: inspector.height
+                state: page
+            }
+        }
     }
     CanvasState {
         id: canvas

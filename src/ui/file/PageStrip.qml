@@ -17,6 +17,7 @@ Rectangle {
     }
     ListView {
         id: list
+        objectName: "list"
         anchors.fill: parent
         anchors.topMargin: 1
         orientation: ListView.Horizontal
@@ -34,6 +35,7 @@ Rectangle {
             currentIndex = root.state.page;
         }
         onCountChanged: follow()
+        onCurrentIndexChanged: follow()
         Component.onCompleted: follow()
         Connections {
             target: root.state
@@ -63,8 +65,8 @@ Rectangle {
 
         delegate: PageCell {
             y: 8
-            current: ListView.isCurrentItem
-            focused: ListView.isCurrentItem && list.activeFocus
+            current: index === root.state.page
+            focused: current && list.activeFocus
             onClicked: root.state.turnTo(index)
         }
         WheelHandler {

@@ -1,5 +1,6 @@
 #include "fileheader.h"
 
+#include "derived.h"
 #include "facts.h"
 #include "relativetime.h"
 
@@ -10,8 +11,8 @@ namespace vexal {
 QString fileFacts(const FileItem &file, const QString &reviewer, const Clock &clock)
 {
     QStringList facts{file.po.value_or(QString()), file.supplier.value_or(QString())};
-    if (file.page_count)
-        facts.append(counted(*file.page_count, u"page"_s));
+    if (const auto pages = pageCount(file))
+        facts.append(counted(*pages, u"page"_s));
     if (file.sender && !file.sender->isEmpty())
         facts.append(u"from "_s + *file.sender);
     if (file.received)

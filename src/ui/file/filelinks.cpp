@@ -19,9 +19,8 @@ QString linkOf(const FileItem &file, const QString &role)
 QList<FileLink> fileLinks(const FileItem &file)
 {
     const Links links = file.links.value_or(Links());
-    const QString supplier = file.supplier.value_or(u"Supplier"_s);
     return {{u"Email"_s, u"envelope"_s, links.gmail.value_or(QString())},
-            {supplier + u" file"_s, u"doc"_s, links.drive.value_or(QString())},
+            {supplierName(file) + u" file"_s, u"doc"_s, links.drive.value_or(QString())},
             {u"PO folder"_s, u"folder"_s, links.drive_folder.value_or(QString())},
             {u"InDesign"_s, u"pencil.and.ruler"_s, links.indd.value_or(QString())},
             {u"What we sent"_s, u"arrow.up.doc"_s, linkOf(file, u"submitted"_s)},

@@ -144,7 +144,7 @@ void FileState::load()
     if (m_loaded == m_shown.file)
         return;
     m_loaded = m_shown.file;
-    if (!m_loaded.isEmpty())
+    if (!m_loaded.isEmpty() && !m_store->isFetching(m_loaded))
         m_store->loadDetail(m_loaded);
 }
 
@@ -155,7 +155,7 @@ FileState::Shown FileState::shown() const
         now.file = file->id;
         now.header = headerOf(*file, *m_store);
         now.loading = !m_store->detail(file->id);
-        now.problem = now.loading ? m_store->detailProblem(file->id) : QString();
+        now.problem = now.loading ? shownText(m_store->detailProblem(file->id)) : QString();
     }
     if (const auto &board = m_store->board(); board && !m_store->selection().isEmpty()) {
         const auto name = [this](const std::optional<QString> &email) { return m_store->displayName(email); };

@@ -9,11 +9,6 @@ namespace vexal {
 
 namespace {
 
-bool isProblem(const Finding &finding)
-{
-    return finding.kind != "expected"_L1 && finding.kind != "pass"_L1;
-}
-
 QString spoken(const QString &label, const PageTally &tally)
 {
     QStringList parts{u"Page "_s + label};
@@ -32,7 +27,7 @@ PageTally pageTally(const FileDetail &detail, qint64 index)
 {
     PageTally tally;
     for (const Finding &finding : detail.findings) {
-        if (finding.page != index || !isProblem(finding))
+        if (finding.page != index || isSettled(finding))
             continue;
         tally.open += finding.state == "open"_L1 && finding.severity != "low"_L1;
         tally.issues += finding.state == "issue"_L1;

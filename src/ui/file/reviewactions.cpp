@@ -1,5 +1,6 @@
 #include "reviewactions.h"
 
+#include "derived.h"
 #include "facts.h"
 #include "jobtexts.h"
 
@@ -56,7 +57,8 @@ ReportProgress reportProgress(const QSet<QString> &files, const BoardState &boar
         const JobStage::Value stage = jobStage(job->status);
         progress.making = stage == JobStage::InLine || stage == JobStage::Running;
         progress.job = job->id;
-        progress.step = stage == JobStage::InLine ? u"Report in line"_s : job->step.value_or(u"Making the report"_s);
+        progress.step =
+            stage == JobStage::InLine ? u"Report in line"_s : shownText(job->step.value_or(u"Making the report"_s));
         progress.stopping = busy.contains(u"stop-"_s + job->id);
         progress.failed = stage == JobStage::Stuck || job->status == "failed"_L1;
     }

@@ -4,7 +4,7 @@ import Vexal.Pieces
 import Vexal.Inspector
 
 /// Cards, one under the other. Only those that are in sight, or will soon be, are built: a page may have hundreds.
-Column {
+Stack {
     id: root
 
     required property InspectorState state
@@ -26,7 +26,7 @@ Column {
     onStretchChanged: root.build()
     onSightChanged: root.build()
     onFoldedChanged: root.build()
-    onPositioningComplete: root.build()
+    onPlaced: root.build()
 
     Accessible.role: Accessible.List
     Accessible.name: "Findings"
@@ -63,6 +63,7 @@ Column {
             width: root.width
             state: root.state
             compact: root.compact
+            onIndexChanged: root.arrange()
             onStepped: by => root.step(place.index + by)
         }
     }

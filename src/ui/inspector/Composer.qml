@@ -70,7 +70,9 @@ FocusScope {
             name: root.view.context
             readOnly: root.view.onItsWay
             onTextChanged: root.typed(field.text)
+            keepsEscape: root.view.attached
             onSubmitted: post.press()
+            onEscaped: clear.press()
         }
         Pill {
             id: post

@@ -4,7 +4,7 @@ import Vexal.Pieces
 import Vexal.Inspector
 
 /// A card's place among the others: the header of the group that begins with it, the card and the notes on it. The card
-/// itself stands there only while it is `built`; without, its room is kept.
+/// itself stands there only while it is `built`; without, its room is kept, and nothing of it is in a frame.
 FocusScope {
     id: root
 
@@ -27,6 +27,7 @@ FocusScope {
         root.card.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    visible: root.built
     implicitHeight: root.above + root.room
 
     When {

@@ -26,12 +26,15 @@ Column {
         name: "Edit the note"
         readOnly: root.busy
         onTextChanged: root.typed(field.text)
+        keepsEscape: true
         onSubmitted: save.press()
+        onEscaped: cancel.press()
     }
     Row {
         anchors.right: parent.right
         spacing: 8
         Pill {
+            id: cancel
             objectName: "cancel"
             title: "Cancel"
             enabled: !root.busy

@@ -28,6 +28,9 @@ Drafts::Drafts(Store &store, QObject *parent)
     connect(&store, &Store::answered, this, &Drafts::answered);
     connect(&store, &Store::busyChanged, this, &Drafts::letGo);
     connect(&store, &Store::detailsChanged, this, &Drafts::dropEditsOfGoneNotes);
+    connect(&store, &Store::boardChanged, this, &Drafts::keepToPerson);
+    connect(&store, &Store::signedOut, this, &Drafts::clear);
+    keepToPerson();
 }
 
 Drafts *Drafts::create(QQmlEngine *engine, QJSEngine *)
@@ -130,6 +133,23 @@ void Drafts::dropEditsOfGoneNotes()
         if (detail && !holds(*detail, noteId))
             dropEdit(noteId);
     }
+}
+
+void Drafts::keepToPerson()
+{
+    if (!m_store.board() || m_store.board()->me.email == m_person)
+        return;
+    m_person = m_store.board()->me.email;
+    clear();
+}
+
+void Drafts::clear()
+{
+    m_notes.clear();
+    m_posting.reset();
+    m_edits.clear();
+    Q_EMIT notesChanged();
+    Q_EMIT editingChanged();
 }
 
 } // namespace vexal

@@ -12,7 +12,8 @@ class QQmlEngine;
 namespace vexal {
 
 /// What the person is writing: a new note for each page, and the edits of notes. It lives as long as the window and
-/// whatever the screens show meanwhile; a text goes when the server has taken it, or when the person drops it.
+/// whatever the screens show meanwhile; a text goes when the server has taken it, when the person drops it, or signs
+/// out. It outlives a session that the server ended, and is then there for nobody but the same person.
 class Drafts : public QObject
 {
     Q_OBJECT
@@ -63,11 +64,14 @@ private:
     void answered(const QString &key, bool taken);
     void letGo();
     void dropEditsOfGoneNotes();
+    void keepToPerson();
+    void clear();
 
     Store &m_store;
     QHash<Page, QString> m_notes;
     std::optional<Page> m_posting;
     QHash<QString, Edit> m_edits; ///< By note id.
+    QString m_person;             ///< The address of whoever wrote all this.
 };
 
 } // namespace vexal

@@ -1,5 +1,6 @@
 #include "findingrow.h"
 
+#include "derived.h"
 #include "displayname.h"
 #include "facts.h"
 #include "jobtexts.h"
@@ -54,17 +55,15 @@ FindingRow findingRow(const Finding &finding, const FileItem &file, const Tellin
     row.key = finding.id;
     row.tag = severityTag(finding.severity);
     row.tone = severityTone(finding.severity);
-    row.title = finding.title;
-    row.detail = finding.detail.value_or(QString());
+    row.title = shownText(finding.title);
+    row.detail = shownText(finding.detail);
     row.compared = finding.before && finding.after;
     if (row.compared) {
         const Passages sides = passages(*finding.before, *finding.after);
         row.ours = sides.ours;
         row.theirs = sides.theirs;
     }
-    row.supplier = file.supplier.value_or(QString());
-    if (row.supplier.isEmpty())
-        row.supplier = u"Supplier"_s;
+    row.supplier = supplierName(file);
     row.placed = hasPlace(finding);
     row.focused = finding.id == telling.focus;
     row.issue = finding.state == "issue"_L1;

@@ -196,7 +196,7 @@ void InspectorState::tellComposer()
     const Finding *finding =
         known && m_store->draftFinding() ? find(known->findings, *m_store->draftFinding()) : nullptr;
     const bool pinned = m_store->draftPin().has_value();
-    const ComposerView view{composerContext(pinned, finding ? std::optional(finding->title) : std::nullopt,
+    const ComposerView view{composerContext(pinned, finding ? std::optional(shownText(finding->title)) : std::nullopt,
                                             known ? pageLabel(pageOf(*known, m_place.page)) : QString()),
                             pinned || m_store->draftFinding(), composerPlaceholder(m_store->pinning()),
                             m_store->busy().contains(u"note"_s), m_drafts->isPosting(m_place.file, m_place.page)};

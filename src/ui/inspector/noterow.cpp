@@ -58,8 +58,9 @@ QList<NoteRow> noteRows(const QList<Note> &notes, const QHash<QString, int> &num
     for (const Note &note : notes) {
         const int number = numbers.value(note.id);
         rows.append({note.id, number > 0 ? QString::number(number) : QString(), displayName(note.by, telling.board),
-                     whenLine(note, telling.clock), note.text, isResolved(note), resolveHelp(note, telling.board),
-                     telling.busy.contains(u"n-"_s + note.id), editing.contains(note.id)});
+                     whenLine(note, telling.clock), shownText(note.text), isResolved(note),
+                     resolveHelp(note, telling.board), telling.busy.contains(u"n-"_s + note.id),
+                     editing.contains(note.id)});
     }
     return rows;
 }

@@ -79,11 +79,6 @@ qsizetype openOn(const FileDetail &detail, qint64 index, const QString &role)
 
 } // namespace
 
-bool isSettled(const Finding &finding)
-{
-    return finding.kind == "expected"_L1 || finding.kind == "pass"_L1;
-}
-
 QString groupTitle(const QString &kind)
 {
     static const QHash<QString, QString> titles{

@@ -53,9 +53,6 @@ public:
     bool operator==(const OtherPage &) const = default;
 };
 
-/// An expected change or a passed check: nothing that one is asked to judge.
-bool isSettled(const Finding &finding);
-
 /// What the group of a kind is called: "Words", "Line breaks", ... ; "Other" for a kind that is not known.
 QString groupTitle(const QString &kind);
 

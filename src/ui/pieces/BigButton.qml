@@ -12,7 +12,7 @@ Pressable {
     implicitWidth: Math.ceil(row.implicitWidth) + 32
     implicitHeight: 34
     radius: 9
-    name: root.busy ? qsTr("Starting…") : root.title
+    name: root.busy ? "Starting…" : root.title
     opacity: root.enabled ? 1 : Theme.disabled
 
     Solid {

@@ -33,10 +33,13 @@ Pressable {
         bold: root.bold
         color: root.color
     }
-    Spinner {
-        anchors.centerIn: parent
-        visible: root.busy
-        size: root.size
-        color: root.color
+    When {
+        active: root.busy
+        Spinner {
+            x: (root.width - width) / 2
+            y: (root.height - height) / 2
+            size: root.size
+            color: root.color
+        }
     }
 }

@@ -15,7 +15,7 @@ Pill {
     opacity: root.found ? 1 : Theme.withoutLink
     hoverWash: root.found ? Theme.pillHoverWash : Theme.pillWash
     scale: root.pressed && root.found ? Theme.pressedScale : 1
-    help: root.found ? "" : qsTr("Not found")
+    help: root.found ? "" : "Not found"
     Accessible.role: Accessible.Link
     onClicked: {
         if (root.found)

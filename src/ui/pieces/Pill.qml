@@ -40,13 +40,16 @@ Pressable {
         color: root.tint.plain
         opacity: root.pressed ? Theme.pressedWash : root.hovered ? root.hoverWash : root.wash
     }
-    Solid {
-        visible: root.filled
-        anchors.fill: parent
-        radius: root.radius
-        tone: root.tone
-        hovered: root.hovered
-        pressed: root.pressed
+    When {
+        active: root.filled
+        Solid {
+            width: root.width
+            height: root.height
+            radius: root.radius
+            tone: root.tone
+            hovered: root.hovered
+            pressed: root.pressed
+        }
     }
     Row {
         id: row
@@ -59,11 +62,13 @@ Pressable {
             size: root.size
             color: root.ink
         }
-        Spinner {
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.busy
-            size: 11
-            color: root.ink
+        When {
+            active: root.busy
+            Spinner {
+                y: (row.height - height) / 2
+                size: 11
+                color: root.ink
+            }
         }
         Label {
             id: label

@@ -16,7 +16,7 @@ Column {
     spacing: 5
 
     Accessible.role: Accessible.List
-    Accessible.name: qsTr("Steps")
+    Accessible.name: "Steps"
 
     Label {
         visible: root.earlier.length > 0
@@ -40,7 +40,7 @@ Column {
 
             Accessible.role: Accessible.ListItem
             Accessible.name: step.text
-            Accessible.description: step.underWay ? qsTr("under way") : qsTr("done")
+            Accessible.description: step.underWay ? "under way" : "done"
 
             Symbol {
                 visible: !step.underWay

@@ -18,11 +18,16 @@ FocusScope {
     /// How high the field is at least, in points.
     property real least: 0
 
+    /// Escape asks the field for its end, and nothing else in the window.
+    property bool keepsEscape: false
+
     readonly property real padding: 9
     readonly property bool writing: edit.activeFocus
 
     /// The person hands in what is written.
     signal submitted
+    /// The person wants no more of it.
+    signal escaped
 
     implicitWidth: 240
     implicitHeight: Math.max(root.least, Math.min(edit.contentHeight, Math.ceil(root.mostLines * line.lineSpacing)) + 2 * root.padding)
@@ -80,11 +85,13 @@ FocusScope {
 
             onCursorRectangleChanged: view.show(edit.cursorRectangle)
 
-            Keys.onShortcutOverride: event => event.accepted = root.hands(event)
+            Keys.onShortcutOverride: event => event.accepted = root.hands(event) || root.escapes(event)
             Keys.onPressed: event => {
-                event.accepted = root.hands(event);
-                if (event.accepted)
+                event.accepted = root.hands(event) || root.escapes(event);
+                if (root.hands(event))
                     root.submitted();
+                else if (root.escapes(event))
+                    root.escaped();
             }
             Keys.onTabPressed: edit.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: edit.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
@@ -122,5 +129,8 @@ FocusScope {
     function hands(event: KeyEvent): bool {
         const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
         return enter && (event.modifiers & Qt.ControlModifier) !== 0;
+    }
+    function escapes(event: KeyEvent): bool {
+        return root.keepsEscape && event.key === Qt.Key_Escape;
     }
 }

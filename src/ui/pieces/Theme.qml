@@ -95,6 +95,11 @@ QtObject {
     readonly property real onItsWay: 0.7
     readonly property real underPointer: 0.9
 
+    /// The room beside the pages on the canvas, over and under them, and the row of the label over each.
+    readonly property int canvasSide: 18
+    readonly property int canvasFoot: 14
+    readonly property int labelRow: 22
+
     /// How small a pressed piece gets, and how much darker a solid one.
     readonly property real pressedScale: 0.985
     readonly property real pressedDarker: 1 / 0.88

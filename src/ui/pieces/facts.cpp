@@ -1,5 +1,7 @@
 #include "facts.h"
 
+#include "derived.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -39,7 +41,7 @@ QString joinedFacts(const QStringList &facts)
     QStringList saying;
     for (const QString &fact : facts) {
         if (!fact.isEmpty())
-            saying.append(isolated(fact));
+            saying.append(isolated(shownText(fact)));
     }
     return saying.join(u" · "_s);
 }

@@ -1,9 +1,11 @@
 #include "jobtexts.h"
 
+#include "derived.h"
 #include "displayname.h"
 #include "facts.h"
 #include "relativetime.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +26,7 @@ QStringList stepsSoFar(const Job &job)
     const QString current = job.step.value_or(QString());
     if (!current.isEmpty() && (steps.isEmpty() || steps.constLast() != current))
         steps.append(current);
-    return steps;
+    return shownTexts(steps);
 }
 
 QString started(const Job &job, const BoardState *board, const Clock &clock)
@@ -48,7 +50,7 @@ QList<ResultLine> listed(const std::optional<QList<QString>> &texts, const QStri
 {
     QList<ResultLine> lines;
     for (const QString &text : texts.value_or(QStringList()))
-        lines.append({symbol, text, tone});
+        lines.append({symbol, shownText(text), tone});
     return lines;
 }
 
@@ -65,6 +67,12 @@ QList<ResultLine> resultLines(const JobResult &result, const Summary &summary)
 }
 
 } // namespace
+
+QList<QString> shownTexts(QList<QString> texts)
+{
+    std::transform(texts.cbegin(), texts.cend(), texts.begin(), [](const QString &text) { return shownText(text); });
+    return texts;
+}
 
 QVariantList ResultRow::linesForQml() const
 {

@@ -103,6 +103,9 @@ ResultRow resultRow(const Job &job, const BoardState *board, const Clock &clock)
 /// The job is done and lists things that somebody has to check.
 bool needsALook(const Job &job);
 
+/// Texts from outside as a screen shows them.
+QList<QString> shownTexts(QList<QString> texts);
+
 /// When something of the record's happened, as told now; nothing when it is not known.
 QString relativeTime(const std::optional<double> &milliseconds, const Clock &clock);
 

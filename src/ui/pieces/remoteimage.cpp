@@ -4,10 +4,10 @@
 #include <QPainterPath>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QSGImageNode>
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace vexal {
 
@@ -98,7 +98,7 @@ void RemoteImage::restart()
         m_source.reset();
         m_pixels = {};
         m_level = {};
-        m_loading = false;
+        m_request.reset();
         m_redraw = true;
         find();
         update();
@@ -132,6 +132,19 @@ void RemoteImage::setStepped(bool stepped)
     m_stepped = stepped;
     want();
     Q_EMIT steppedChanged();
+}
+
+void RemoteImage::setAhead(bool ahead)
+{
+    if (m_ahead == ahead)
+        return;
+    m_ahead = ahead;
+    // What is on its way is asked for again, for it is looked at now.
+    if (!m_ahead && m_request) {
+        m_request.reset();
+        want();
+    }
+    Q_EMIT aheadChanged();
 }
 
 void RemoteImage::setRadius(qreal radius)
@@ -212,32 +225,40 @@ QSize RemoteImage::wantedLevel() const
     return m_stepped ? Pixels::steppedLevelFor(*m_source, shown) : Pixels::levelFor(*m_source, shown);
 }
 
-// One level is decoded at a time; when it is there, the size of that moment is asked for. Until then another level that
-// is held stands in, so that a page that is known is never an empty frame.
+// Pixels that are held are shown at once. Until the wanted ones are there another level that is held stands in, so that
+// a page that is known is never an empty frame.
 void RemoteImage::want()
 {
     const QSize level = wantedLevel();
-    if (m_loading || level.isEmpty() || level == m_level)
+    if (level.isEmpty() || level == m_level)
         return;
     Pixels &cache = images()->pixels();
     if (const QImage held = cache.held(*m_source, level); !held.isNull())
         return show(held, level);
     if (const QImage other = m_pixels.isNull() ? cache.heldInstead(*m_source) : QImage(); !other.isNull())
         show(other, {});
-    m_loading = true;
-    const auto urgency = isVisible() ? Pixels::Urgency::Shown : Pixels::Urgency::Ahead;
-    cache.load(
-        *m_source, level, urgency, this,
-        [this, id = m_source->picture.id(), keys = std::array{m_key, m_difference}, level](const QImage &loaded) {
-            const bool same = m_source && m_source->picture.id() == id;
-            if (same && keys == std::array{m_key, m_difference})
-                changing([&] { receive(level, loaded); });
-        });
+    if (m_request || std::exchange(m_asking, true))
+        return;
+    // While the screens are laid out the item passes through sizes that nobody sees.
+    QMetaObject::invokeMethod(this, &RemoteImage::load, Qt::QueuedConnection);
+}
+
+// One level is decoded at a time; when it is there, the size of that moment is asked for.
+void RemoteImage::load()
+{
+    m_asking = false;
+    const QSize level = wantedLevel();
+    if (m_request || level.isEmpty() || level == m_level)
+        return;
+    m_request = std::make_unique<QObject>();
+    const auto urgency = isVisible() && !m_ahead ? Pixels::Urgency::Shown : Pixels::Urgency::Ahead;
+    images()->pixels().load(*m_source, level, urgency, m_request.get(),
+                            [this, level](const QImage &loaded) { changing([&] { receive(level, loaded); }); });
 }
 
 void RemoteImage::receive(QSize level, const QImage &pixels)
 {
-    m_loading = false;
+    m_request.reset();
     if (!pixels.isNull()) {
         show(pixels, level);
         return want();
@@ -265,33 +286,27 @@ Placement RemoteImage::placement() const
 
 QSGNode *RemoteImage::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
-    auto *picture = static_cast<QSGImageNode *>(node);
     if (m_pixels.isNull() || width() <= 0 || height() <= 0) {
-        delete picture;
+        delete node;
         return nullptr;
     }
     const Placement place = placement();
     const qreal scale = window()->effectiveDevicePixelRatio();
-    if (!picture) {
-        picture = window()->createImageNode();
-        picture->setOwnsTexture(true);
-        m_redraw = true;
-    }
-    if (m_redraw) {
-        const QImage image = m_radius > 0 ? rounded(m_pixels, place, m_radius, scale) : m_pixels;
-        picture->setTexture(window()->createTextureFromImage(image));
+    auto *picture = static_cast<TiledPicture *>(node);
+    if (!picture || m_redraw) {
+        delete picture;
+        picture = new TiledPicture(*window(), m_radius > 0 ? rounded(m_pixels, place, m_radius, scale) : m_pixels);
         m_redraw = false;
     }
+    if (m_radius > 0) {
+        picture->lay({QRectF({}, picture->size()), place.target}, QSGTexture::Linear);
+        return picture;
+    }
     // A level that was made for just this size lies pixel on pixel and needs no filter.
-    const QSizeF texture = picture->texture()->textureSize();
     const QSizeF drawn = place.target.size() * scale;
-    const QSizeF shown = m_radius > 0 ? drawn
-                                      : QSizeF(drawn.width() * texture.width() / place.source.width(),
-                                               drawn.height() * texture.height() / place.source.height());
-    const bool exact = std::abs(shown.width() - texture.width()) < 1 && std::abs(shown.height() - texture.height()) < 1;
-    picture->setFiltering(exact && m_radius <= 0 && !m_fill ? QSGTexture::Nearest : QSGTexture::Linear);
-    picture->setSourceRect(m_radius > 0 ? QRectF(QPointF(), texture) : place.source);
-    picture->setRect(place.target);
+    const bool exact = std::abs(drawn.width() / place.source.width() - 1) * m_pixels.width() < 1 &&
+                       std::abs(drawn.height() / place.source.height() - 1) * m_pixels.height() < 1;
+    picture->lay(place, exact && !m_fill ? QSGTexture::Nearest : QSGTexture::Linear);
     return picture;
 }
 

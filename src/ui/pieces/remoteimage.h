@@ -1,10 +1,12 @@
 #pragma once
 
 #include "images.h"
+#include "tiledpicture.h"
 
 #include <QQuickItem>
 
 #include <array>
+#include <memory>
 
 class QQmlEngine;
 
@@ -12,14 +14,6 @@ namespace vexal {
 
 /// Makes the one picture cache known to an engine's screens. Call it before the engine loads one.
 void giveImages(QQmlEngine &engine, Images &images);
-
-/// Where a picture of a size lies in an item, and which part of it is seen.
-struct Placement
-{
-    QRectF source; ///< In pixels of the picture.
-    QRectF target; ///< In points of the item.
-    bool operator==(const Placement &) const = default;
-};
 
 /// The whole picture in the middle of the item, as large as fits; or, filling it, the middle of the picture.
 Placement placed(QSizeF picture, QSizeF item, bool fill);
@@ -37,6 +31,7 @@ class RemoteImage : public QQuickItem
     Q_PROPERTY(bool fill READ fill WRITE setFill NOTIFY fillChanged FINAL)
     Q_PROPERTY(bool stretch READ stretch WRITE setStretch NOTIFY stretchChanged FINAL)
     Q_PROPERTY(bool stepped READ stepped WRITE setStepped NOTIFY steppedChanged FINAL)
+    Q_PROPERTY(bool ahead READ ahead WRITE setAhead NOTIFY aheadChanged FINAL)
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
     Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY hasPictureChanged FINAL)
     Q_PROPERTY(QSizeF pixels READ pixels NOTIFY pixelsChanged FINAL)
@@ -64,12 +59,19 @@ public:
     bool stepped() const { return m_stepped; }
     void setStepped(bool stepped);
 
+    /// It is not what is seen now, but may be next: what is seen comes first.
+    bool ahead() const { return m_ahead; }
+    void setAhead(bool ahead);
+
     /// How round its corners are, in points. For small pictures: rounding costs a copy.
     qreal radius() const { return m_radius; }
     void setRadius(qreal radius);
 
     /// There are pixels to show.
     bool hasPicture() const { return !m_pixels.isNull(); }
+
+    /// The pixels are those of the size at which it is seen, and do not stand in for them.
+    bool isSharp() const { return hasPicture() && m_level == wantedLevel(); }
 
     /// How many pixels the whole picture has, whatever is shown of them; empty until it is known.
     QSizeF pixels() const { return m_source ? QSizeF(m_source->size()) : QSizeF(); }
@@ -80,6 +82,7 @@ Q_SIGNALS:
     void fillChanged();
     void stretchChanged();
     void steppedChanged();
+    void aheadChanged();
     void radiusChanged();
     void hasPictureChanged();
     void pixelsChanged();
@@ -99,6 +102,7 @@ private:
     QSizeF seen(QSizeF picture, QSizeF item) const;
     Placement placement() const;
     void want();
+    void load();
     void receive(QSize level, const QImage &pixels);
     void show(const QImage &pixels, QSize level);
     QSize wantedLevel() const;
@@ -109,13 +113,15 @@ private:
     bool m_fill = false;
     bool m_stretch = false;
     bool m_stepped = false;
+    bool m_ahead = false;
     qreal m_radius = 0;
     std::array<std::optional<Picture>, 2> m_found; ///< The picture and the one it is compared with.
     std::optional<Source> m_source;                ///< What is shown, once all of it is found.
     QImage m_pixels;                               ///< What is shown: the source at m_level, or at another until then.
     QSize m_level;
-    bool m_loading = false;
-    bool m_redraw = false; ///< The texture is of other pixels than m_pixels.
+    bool m_asking = false;              ///< Once this turn is over, the level that is wanted then is asked for.
+    std::unique_ptr<QObject> m_request; ///< While a level is loaded. Without it nothing is answered.
+    bool m_redraw = false;              ///< The texture is of other pixels than m_pixels.
 };
 
 } // namespace vexal

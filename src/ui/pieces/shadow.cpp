@@ -5,7 +5,9 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 
+#include <array>
 #include <cmath>
+#include <memory>
 #include <numbers>
 #include <vector>
 
@@ -86,6 +88,55 @@ QImage shadowPicture(QSizeF size, qreal radius, qreal blur, const QColor &color)
     return picture;
 }
 
+namespace {
+
+// A picture in nine parts, of which nothing is stretched but the middle column and the middle row.
+class StretchedMiddle : public QSGNode
+{
+public:
+    explicit StretchedMiddle(const QQuickWindow &window)
+    {
+        for (QSGImageNode *&part : m_parts) {
+            part = window.createImageNode();
+            part->setFiltering(QSGTexture::Linear);
+            appendChildNode(part);
+        }
+    }
+
+    /// Shows the picture at the place in points; `half` is how large it is on each side of its middle pixels, in
+    /// points.
+    void show(std::unique_ptr<QSGTexture> texture, const QRectF &place, QSizeF half)
+    {
+        const QSizeF whole = texture->textureSize();
+        const std::array x{place.left(), place.left() + half.width(), place.right() - half.width(), place.right()};
+        const std::array y{place.top(), place.top() + half.height(), place.bottom() - half.height(), place.bottom()};
+        const std::array u{0., std::floor(whole.width() / 2), std::ceil(whole.width() / 2), whole.width()};
+        const std::array v{0., std::floor(whole.height() / 2), std::ceil(whole.height() / 2), whole.height()};
+        for (size_t i = 0; i < m_parts.size(); ++i) {
+            const size_t column = i % 3;
+            const size_t row = i / 3;
+            m_parts[i]->setTexture(texture.get());
+            m_parts[i]->setSourceRect({QPointF(u[column], v[row]), QPointF(u[column + 1], v[row + 1])});
+            m_parts[i]->setRect({QPointF(x[column], y[row]), QPointF(x[column + 1], y[row + 1])});
+        }
+        m_texture = std::move(texture);
+    }
+
+private:
+    std::array<QSGImageNode *, 9> m_parts{};
+    std::unique_ptr<QSGTexture> m_texture;
+};
+
+// The least size at which the middle of a panel's shadow does not feel its edges, in pixels; the panel's own where that
+// is less.
+QSizeF leastPanel(QSizeF panel, qreal radius, qreal blur)
+{
+    const qreal least = 2 * std::ceil(radius + shadowMargin(blur)) + 1;
+    return panel.boundedTo({least, least});
+}
+
+} // namespace
+
 Shadow::Shadow(QQuickItem *parent)
     : QQuickItem(parent)
 {
@@ -101,16 +152,16 @@ QSGNode *Shadow::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     }
     // A wide shadow is painted small and stretched: it has nothing sharp in it.
     const qreal scale = qMin(window()->effectiveDevicePixelRatio(), kFineEnough / m_blur);
-    const QImage image = shadowPicture(size() * scale, m_radius * scale, m_blur * scale, m_color);
-    auto *picture = static_cast<QSGImageNode *>(node);
-    if (!picture) {
-        picture = window()->createImageNode();
-        picture->setOwnsTexture(true);
-        picture->setFiltering(QSGTexture::Linear);
-    }
-    picture->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
+    const QSizeF panel = leastPanel(size() * scale, m_radius * scale, m_blur * scale);
+    const QImage image = shadowPicture(panel, m_radius * scale, m_blur * scale, m_color);
+    auto *picture = static_cast<StretchedMiddle *>(node);
+    if (!picture)
+        picture = new StretchedMiddle(*window());
     const qreal margin = shadowMargin(m_blur * scale) / scale;
-    picture->setRect(QRectF(QPointF(-margin, m_drop - margin), QSizeF(image.size()) / scale));
+    const QSizeF half = QSize(image.width() / 2, image.height() / 2);
+    const QSizeF around = QSizeF(image.size()) / scale + size() - panel / scale;
+    std::unique_ptr<QSGTexture> texture(window()->createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
+    picture->show(std::move(texture), QRectF(QPointF(-margin, m_drop - margin), around), half / scale);
     return picture;
 }
 

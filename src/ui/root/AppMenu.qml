@@ -41,14 +41,6 @@ Overlay {
         root.step(event.key === Qt.Key_Home ? 1 : -1);
     }
 
-    OnAction {
-        action: Actions.menu
-        checked: root.open
-        onTriggered: root.open ? root.dismissed() : root.asked()
-    }
-
-    signal asked
-
     /// Goes on to the next row in that direction that can be chosen, around the ends.
     function step(by: int) {
         const count = rows.count;

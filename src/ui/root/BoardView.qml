@@ -10,17 +10,16 @@ FocusScope {
     id: root
 
     required property RootState state
+    /// It outlives the view: what shows a file goes a moment after the rest.
+    required property FileState file
 
     Sidebar {
         id: sidebar
         width: 288
         height: parent.height
     }
-    AppMenu {
-        id: menu
+    AppMenuPlace {
         opener: sidebar.menuButton
-        onAsked: menu.open = true
-        onDismissed: menu.open = false
     }
     Rule {
         id: rule
@@ -41,27 +40,29 @@ FocusScope {
         anchors.top: update.bottom
         state: root.state
     }
+    // Placed by numbers, for they hold from the beginning; anchors come last, and what is in it would be laid out twice.
     FocusScope {
         id: detail
         focus: true
-        anchors.left: rule.right
-        anchors.right: parent.right
-        anchors.top: offline.bottom
-        anchors.bottom: parent.bottom
+        x: sidebar.width + rule.width
+        y: update.height + offline.height
+        width: root.width - x
+        height: root.height - y
 
         When {
             active: root.state.place === RootState.OneFile
             FileView {
-                anchors.fill: parent
+                width: detail.width
+                height: detail.height
                 focus: true
-                state: file
+                state: root.file
             }
         }
         When {
             active: root.state.place === RootState.SeveralFiles
             MultiView {
                 anchors.fill: parent
-                state: file
+                state: root.file
             }
         }
         EmptyState {
@@ -76,11 +77,5 @@ FocusScope {
             text: "Loading the board…"
             color: Theme.secondary
         }
-    }
-    // It goes last, for the others speak of it.
-    FileState {
-        id: file
-        store: Store
-        time: PassingTime
     }
 }

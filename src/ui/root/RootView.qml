@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vexal.Pieces
 import Vexal.Root
+import Vexal.File
 
 /// The window's one view: the sign-in screen, or the board as sidebar, rule and detail.
 FocusScope {
@@ -22,6 +23,11 @@ FocusScope {
     RootState {
         id: board
         store: Store
+    }
+    FileState {
+        id: selected
+        store: Store
+        time: PassingTime
     }
     Rectangle {
         anchors.fill: parent
@@ -50,19 +56,18 @@ FocusScope {
     }
     When {
         active: !Store.signedIn
-        AppMenu {
-            id: plainMenu
+        AppMenuPlace {
             opener: buttons
-            onAsked: plainMenu.open = true
-            onDismissed: plainMenu.open = false
         }
     }
     When {
         active: Store.signedIn
         BoardView {
-            anchors.fill: parent
+            width: root.width
+            height: root.height
             focus: true
             state: board
+            file: selected
         }
     }
     ToastSlot {
@@ -79,12 +84,15 @@ FocusScope {
     ActionKeys {}
     AppActions {
         state: board
-        onAboutRequested: about.open = true
+        onAboutRequested: about.wanted = true
     }
-    About {
+    Kept {
         id: about
-        opener: root
-        onDismissed: about.open = false
+        About {
+            opener: root
+            open: about.open
+            onDismissed: about.wanted = false
+        }
     }
     HintLayer {}
 }

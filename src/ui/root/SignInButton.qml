@@ -14,12 +14,12 @@ Pressable {
     implicitWidth: 17 + logo.width + row.spacing + Math.ceil(measure.advanceWidth) + 20
     implicitHeight: 44
     radius: 11
-    name: root.working ? qsTr("Opening Google…") : qsTr("Sign in with Google")
+    name: root.working ? "Opening Google…" : "Sign in with Google"
 
     TextMetrics {
         id: measure
         font: label.font
-        text: qsTr("Sign in with Google")
+        text: "Sign in with Google"
     }
     Outlined {
         anchors.fill: parent

@@ -95,7 +95,7 @@ Item {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "tagline"
-            text: qsTr("Supplier proofs, checked against what we sent.")
+            text: "Supplier proofs, checked against what we sent."
             size: 15
             color: Theme.secondary
         }
@@ -112,7 +112,7 @@ Item {
             objectName: "hint"
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            text: qsTr("Google opens on its own page.\nSign in there with your @%1 account.").arg(root.emailDomain)
+            text: "Google opens on its own page.\nSign in there with your @%1 account.".arg(root.emailDomain)
             size: 12
             lineHeight: 17
             lineHeightMode: Text.FixedHeight
@@ -132,14 +132,14 @@ Item {
         }
         TextButton {
             objectName: "cancel"
-            title: qsTr("Cancel")
+            title: "Cancel"
             size: 12
             onClicked: root.cancelRequested()
         }
         TextButton {
             objectName: "link"
             visible: root.canCopyLink
-            title: qsTr("Copy link")
+            title: "Copy link"
             size: 12
             onClicked: root.linkRequested()
         }

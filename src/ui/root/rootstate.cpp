@@ -99,12 +99,12 @@ void RootState::copySignInLink()
 
 QString RootState::updateTitle() const
 {
-    return m_store->update() ? u"Vexal "_s + m_store->update()->version + u" is ready."_s : QString();
+    return m_store->update() ? u"Vexal "_s + shownText(m_store->update()->version) + u" is ready."_s : QString();
 }
 
 QString RootState::updateNotes() const
 {
-    return m_store->update() ? m_store->update()->notes.value_or(QString()) : QString();
+    return m_store->update() ? shownText(m_store->update()->notes) : QString();
 }
 
 void RootState::download() const
@@ -120,7 +120,7 @@ void RootState::dismissUpdate()
 
 QString RootState::problem() const
 {
-    return m_store->board() ? m_store->problem().value_or(QString()) : QString();
+    return m_store->board() ? shownText(m_store->problem()) : QString();
 }
 
 void RootState::update()

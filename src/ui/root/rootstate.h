@@ -1,5 +1,6 @@
 #pragma once
 
+#include "derived.h"
 #include "store.h"
 
 #include <QQuickItem>
@@ -44,7 +45,7 @@ public:
 
     /// The toast on screen; all empty without one.
     QString toastId() const { return m_toast.id.isNull() ? QString() : m_toast.id.toString(); }
-    QString toastText() const { return m_toast.text; }
+    QString toastText() const { return shownText(m_toast.text); }
     QString undoLabel() const { return m_toast.undoLabel.value_or(QString()); }
     /// Takes the toast of that id away; a younger one stays.
     Q_INVOKABLE void clearToast(const QString &id);

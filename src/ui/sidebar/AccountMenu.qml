@@ -12,15 +12,18 @@ IconButton {
     icon: "ellipsis.circle"
     size: 14
     help: "Account"
-    open: menu.open
-    onClicked: menu.open = true
+    open: menu.wanted
+    onClicked: menu.wanted = true
 
-    Menu {
+    Kept {
         id: menu
-        opener: root
-        titles: ["Change my photo…", "Sign out"]
-        ruled: 1
-        onDismissed: menu.open = false
-        onChosen: index => index === 0 ? root.photoRequested() : root.signOutRequested()
+        Menu {
+            opener: root
+            open: menu.open
+            titles: ["Change my photo…", "Sign out"]
+            ruled: 1
+            onDismissed: menu.wanted = false
+            onChosen: index => index === 0 ? root.photoRequested() : root.signOutRequested()
+        }
     }
 }

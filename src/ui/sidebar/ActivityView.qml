@@ -41,7 +41,7 @@ Popover {
         anchors.top: title.bottom
         x: 16
         height: 17 + 8
-        text: qsTr("Nothing has happened yet.")
+        text: "Nothing has happened yet."
         size: 12.5
         color: Theme.secondary
     }

@@ -24,7 +24,7 @@ FocusScope {
         cacheBuffer: 400
 
         Accessible.role: Accessible.List
-        Accessible.name: qsTr("Files")
+        Accessible.name: "Files"
 
         Keys.onReturnPressed: pick()
         Keys.onSpacePressed: pick()

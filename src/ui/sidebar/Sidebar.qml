@@ -116,14 +116,18 @@ Rectangle {
         width: parent.width
         people: sidebar.people
     }
-    ActivityView {
-        state: activity
-        open: Store.showActivity
-        opener: people.opener
-        arrowAt: people.opener.x + people.opener.width / 2 - x
-        x: people.opener.x - 21
-        y: people.y + people.opener.y - 6 - arrowHeight - height
-        mostHeight: Math.min(560, people.y + people.opener.y - 6 - arrowHeight - 16)
-        onDismissed: Store.setShowActivity(false)
+    Kept {
+        id: panel
+        wanted: Store.showActivity
+        ActivityView {
+            state: activity
+            open: panel.open
+            opener: people.opener
+            arrowAt: people.opener.x + people.opener.width / 2 - x
+            x: people.opener.x - 21
+            y: people.y + people.opener.y - 6 - arrowHeight - height
+            mostHeight: Math.min(560, people.y + people.opener.y - 6 - arrowHeight - 16)
+            onDismissed: Store.setShowActivity(false)
+        }
     }
 }

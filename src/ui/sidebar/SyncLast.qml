@@ -23,7 +23,7 @@ Column {
         radius: 4
         name: root.row.text
         help: ""
-        Accessible.description: root.open ? qsTr("unfolded") : qsTr("folded")
+        Accessible.description: root.open ? "unfolded" : "folded"
         onClicked: root.open = !root.open
 
         Symbol {
@@ -81,14 +81,21 @@ Column {
             width: fold.width
             topPadding: 10
             spacing: 12
-            StepsList {
-                visible: root.row.steps.length > 0
-                width: parent.width
-                steps: root.row.steps
-            }
-            ResultBlock {
-                width: parent.width
-                row: root.row.result
+            Kept {
+                wanted: root.open
+                Column {
+                    width: details.width
+                    spacing: details.spacing
+                    StepsList {
+                        visible: root.row.steps.length > 0
+                        width: parent.width
+                        steps: root.row.steps
+                    }
+                    ResultBlock {
+                        width: parent.width
+                        row: root.row.result
+                    }
+                }
             }
         }
     }

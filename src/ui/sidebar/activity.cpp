@@ -1,5 +1,6 @@
 #include "activity.h"
 
+#include "derived.h"
 #include "displayname.h"
 #include "relativetime.h"
 
@@ -24,7 +25,7 @@ QString withFirstSmall(const QString &text)
 
 QString phrase(const Event &event)
 {
-    QString text = event.text.value_or(QString());
+    QString text = shownText(event.text);
     if (event.kind == "comment"_L1)
         return u"left a note: “"_s + text + u'”';
     if (event.kind == "finding"_L1 || event.kind == "status"_L1 || event.kind == "report"_L1 || event.kind == "stop"_L1)
@@ -78,7 +79,7 @@ ActivityRow activityRow(const Event &event, const BoardState &board, const Known
     row.key = QString::number(event.id);
     row.actor = event.by.value_or(QString());
     if (const Person *person = known.people.value(row.actor)) {
-        row.name = person->name;
+        row.name = shownText(person->name);
         row.photo = person->photo.value_or(QString());
         row.color = person->color.value_or(QString());
     }

@@ -69,8 +69,8 @@ FileRowCount fileRowCount(const FileItem &file)
 QString fileRowDetails(const FileItem &file)
 {
     QStringList facts{file.supplier.value_or(QString()), file.po.value_or(QString())};
-    if (file.page_count)
-        facts.append(QString::number(*file.page_count) + u" p"_s);
+    if (const auto pages = pageCount(file))
+        facts.append(QString::number(*pages) + u" p"_s);
     return joinedFacts(facts);
 }
 

@@ -1,5 +1,6 @@
 #include "people.h"
 
+#include "derived.h"
 #include "displayname.h"
 #include "facts.h"
 #include "relativetime.h"
@@ -27,8 +28,9 @@ QList<PersonRow> peopleRows(const BoardState &board, const Clock &clock)
     QList<PersonRow> rows;
     for (const Person &person : board.users) {
         const QString seen = person.last_seen ? relativeTime(momentOf(*person.last_seen), clock) : QString();
-        rows.append({person.email, person.name, person.photo.value_or(QString()), person.color.value_or(QString()),
-                     isLive(person, clock), joinedFacts({displayName(person.email, &board), seen})});
+        rows.append({person.email, shownText(person.name), person.photo.value_or(QString()),
+                     person.color.value_or(QString()), isLive(person, clock),
+                     joinedFacts({displayName(person.email, &board), seen})});
     }
     return rows;
 }

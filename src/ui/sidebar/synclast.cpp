@@ -30,7 +30,7 @@ SyncLast syncLast(const Job &job, const BoardState *board, const Clock &clock)
                  u"xmark.circle.fill"_s,
                  Tone::Issue,
                  outcome(job, board, clock),
-                 job.steps.value_or(QStringList()),
+                 shownTexts(job.steps.value_or(QStringList())),
                  resultRow(job, board, clock)};
     if (job.status == "done"_L1) {
         row.symbol = needsALook(job) ? u"exclamationmark.circle.fill"_s : u"checkmark.circle.fill"_s;

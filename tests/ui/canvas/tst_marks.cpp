@@ -58,6 +58,8 @@ private Q_SLOTS:
     void thePageOfOursTakesNoPin();
     void theKeyboardPlacesAPin();
     void pinningIsToldAndEscapeEndsIt();
+    void whatPinningSaysCoversNoPageThatLeavesRoom();
+    void theDraftsWordStaysOnThePage();
     void marksKeepTheirSizeWhenZoomed();
     void theLoupeOpensForTheFocusedFinding();
     void theLoupeIsAsLargeAsItsFormula();
@@ -73,18 +75,16 @@ private:
     Screen &screen() const { return *m_canvas->screen; }
     Store &store() const { return m_canvas->store; }
     void clickAt(QPointF at) { QTest::mouseClick(&screen().window(), Qt::LeftButton, {}, at.toPoint()); }
-    // The two lines of a box, in the order in which they are drawn.
-    static QList<qreal> linesOf(const QQuickItem *box)
+    static qreal lineOf(const QQuickItem *box)
     {
-        QList<qreal> lines;
-        for (const QQuickItem *child : box->childItems()) {
-            if (const QVariant line = child->property("line"); line.isValid())
-                lines.append(line.toReal());
-        }
-        return lines;
+        return box->findChild<QQuickItem *>(u"line"_s)->property("line").toReal();
     }
-    static qreal haloOf(const QQuickItem *box) { return linesOf(box).constFirst(); }
-    static qreal lineOf(const QQuickItem *box) { return linesOf(box).constLast(); }
+    static QList<QQuickItem *> called(const QString &name, const QQuickItem *mark)
+    {
+        QList<QQuickItem *> items = mark->childItems();
+        items.removeIf([&name](const QQuickItem *item) { return item->objectName() != name; });
+        return items;
+    }
     bool loupeStands() const
     {
         const auto loupes = screen().all("Loupe");
@@ -105,11 +105,8 @@ void MarksTest::init()
 void MarksTest::furtherBoxesAreOneMark()
 {
     const QQuickItem *mark = screen().all("BoxMark").first();
-    QList<QQuickItem *> boxes;
-    for (QQuickItem *child : mark->childItems()) {
-        if (child->objectName() == "box"_L1)
-            boxes.append(child);
-    }
+    const QList<QQuickItem *> boxes = called(u"box"_s, mark);
+    const QList<QQuickItem *> halos = called(u"halo"_s, mark);
     QCOMPARE(boxes.size(), 2);
     QCOMPARE(sceneRect(boxes[1]).topLeft(), corner + QPointF(0.6 * 325 - 3, 0.6 * 650 - 3));
     // The pointer on one of them is the pointer on all.
@@ -117,7 +114,12 @@ void MarksTest::furtherBoxesAreOneMark()
     QTRY_COMPARE(lineOf(boxes[0]), 2.4);
     screen().click(boxes[1]);
     QCOMPARE(store().focus(), u"a"_s);
-    QTRY_COMPARE(haloOf(boxes[0]), 5.0);
+    QCOMPARE(halos.size(), 2);
+    for (const QQuickItem *halo : halos) {
+        QTRY_COMPARE(halo->property("line").toReal(), 5.0);
+        // Under the lines of both, so that neither is cut where the two meet.
+        QVERIFY(mark->childItems().indexOf(halo) < mark->childItems().indexOf(boxes[0]));
+    }
 }
 
 void MarksTest::pinsStandAtTheirPlacesWithTheirNumbers()
@@ -210,11 +212,43 @@ void MarksTest::pinningIsToldAndEscapeEndsIt()
     QVERIFY(!store().pinning());
 }
 
+void MarksTest::whatPinningSaysCoversNoPageThatLeavesRoom()
+{
+    const auto hint = [this] {
+        const auto capsules = screen().all("Capsule");
+        return capsules.size() == 1 ? sceneRect(capsules.first()) : QRectF();
+    };
+    store().setPinning(true);
+    const QRectF tall(corner, fitted);
+    QVERIFY(tall.contains(hint()));
+    QCOMPARE(hint().center().x(), tall.center().x());
+
+    FileDetail detail = reviewed();
+    detail.file.pages->operator[](0).px = QList<double>{2000, 1000};
+    m_canvas = std::make_unique<CanvasScreen>(detail, size, QHash<QString, QColor>{});
+    store().setPinning(true);
+    const QRectF wide(corner, QSizeF(473, 236.5));
+    QVERIFY(hint().top() > wide.bottom());
+    QCOMPARE(hint().center().x(), wide.center().x());
+}
+
+void MarksTest::theDraftsWordStaysOnThePage()
+{
+    const QRectF page(corner, fitted);
+    const auto word = [this] { return sceneRect(screen().only("Capsule")); };
+    store().placePin({0.2, 0.5});
+    QVERIFY(page.contains(word()));
+    QVERIFY(word().left() > page.left() + 0.2 * page.width());
+    store().placePin({0.98, 0.5});
+    QVERIFY(page.contains(word()));
+    QVERIFY(word().right() < page.left() + 0.98 * page.width());
+}
+
 void MarksTest::marksKeepTheirSizeWhenZoomed()
 {
     screen().press(Qt::Key_1, Qt::ControlModifier);
     const QRectF page = sceneRect(screen().all("BoxMarks").first());
-    const QQuickItem *halo = screen().all("StrokedBox").first();
+    const QQuickItem *halo = screen().all("Outline").first();
     QCOMPARE(sceneRect(halo), QRectF(page.topLeft() + QPointF(100 - 3, 400 - 3), QSizeF(300 + 6, 200 + 6)));
     QCOMPARE(halo->property("line").toReal(), 4.0);
     QCOMPARE(screen().only("NotePin")->mapToScene({}), page.topLeft() + QPointF(500, 500));
@@ -265,7 +299,8 @@ void MarksTest::thePageSlidesUpFromUnderTheLoupe()
     QCOMPARE(sceneRect(marks).topLeft(), corner);
     store().focusFinding(u"low"_s);
     const QQuickItem *loupe = screen().only("Loupe");
-    QTRY_VERIFY(sceneRect(screen().all("BoxMark")[1]->childItems().first()).bottom() < 744 - 24 - loupe->height() - 23);
+    QTRY_VERIFY(sceneRect(called(u"box"_s, screen().all("BoxMark")[1]).constFirst()).bottom() <
+                744 - 24 - loupe->height() - 23);
     QCOMPARE(sceneRect(marks).size(), fitted);
     store().clearFocus();
     QTRY_COMPARE(sceneRect(marks).topLeft(), corner);
@@ -284,7 +319,7 @@ void MarksTest::focusingAFindingOnAZoomedPageShowsIt()
     store().focusFinding(u"low"_s);
     QTRY_VERIFY(loupeStands());
     const QRectF free(18, 80, 473, 744 - 24 - screen().only("Loupe")->height() - 80);
-    QTRY_VERIFY(free.contains(sceneRect(screen().all("BoxMark")[1]->childItems().first())));
+    QTRY_VERIFY(free.contains(sceneRect(called(u"box"_s, screen().all("BoxMark")[1]).constFirst())));
 }
 
 void MarksTest::theCropShowsItsBox()
@@ -311,10 +346,10 @@ void MarksTest::theKeyboardReachesEveryMark()
     }
     for (const QString &type : {u"box"_s, u"vexal::PinShape"_s, u"ToolButton"_s, u"SegmentedControl"_s})
         QVERIFY2(reached.contains(type), qPrintable(type + u" in "_s + reached.join(u' ')));
-    QQuickItem *box = screen().all("BoxMark").first()->childItems().first();
+    QQuickItem *box = called(u"box"_s, screen().all("BoxMark").first()).constFirst();
     box->forceActiveFocus(Qt::TabFocusReason);
     screen().press(Qt::Key_Down);
-    QCOMPARE(screen().window().activeFocusItem(), screen().all("BoxMark")[1]->childItems().first());
+    QCOMPARE(screen().window().activeFocusItem(), called(u"box"_s, screen().all("BoxMark")[1]).constFirst());
     screen().press(Qt::Key_Return);
     QCOMPARE(store().focus(), u"low"_s);
     screen().press(Qt::Key_Space);

@@ -377,7 +377,7 @@ void ModesTest::aDoubleClickTogglesButNotOnAMark()
     QCOMPARE(zoom()->property("percent").toInt(), 100);
     QTest::mouseDClick(window, Qt::LeftButton, {}, middle);
     QVERIFY(!zoom()->property("zoomed").toBool());
-    const QQuickItem *box = screen().all("StrokedBox").first();
+    const QQuickItem *box = screen().all("Outline").first();
     const QPoint onMark = box->mapToScene({box->width() / 2, box->height() / 2}).toPoint();
     QTest::mouseDClick(window, Qt::LeftButton, {}, onMark);
     QVERIFY(!zoom()->property("zoomed").toBool());

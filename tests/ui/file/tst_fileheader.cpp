@@ -12,6 +12,7 @@ class FileHeaderTest : public QObject
 private Q_SLOTS:
     void everyFactStandsInItsPlace();
     void onePageIsSingular();
+    void fewerPagesThanNoneAreNotTold();
     void aFileWithNothingKnownHasNoFacts();
     void aReviewedFileWithoutAReviewerNamesNone();
     void aFileThatIsNotReviewedNamesNoReviewer();
@@ -44,6 +45,13 @@ void FileHeaderTest::onePageIsSingular()
     QCOMPARE(fileFacts(file, {}, m_clock), u"1 page"_s);
     file.page_count = 2;
     QCOMPARE(fileFacts(file, {}, m_clock), u"2 pages"_s);
+}
+
+void FileHeaderTest::fewerPagesThanNoneAreNotTold()
+{
+    FileItem file;
+    file.page_count = -3;
+    QCOMPARE(fileFacts(file, {}, m_clock), QString());
 }
 
 void FileHeaderTest::aFileWithNothingKnownHasNoFacts()

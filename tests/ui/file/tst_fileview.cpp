@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace vexal;
 using test::Screen;
@@ -52,9 +54,11 @@ private Q_SLOTS:
     void aFileCanBeMarkedReviewedAndReopened();
     void aReportCanBeAskedForStoppedAndOpened();
     void theStripKeepsTheCurrentPageInView();
+    void theStripKnowsTheCurrentPageAfterPagesCameInFront();
     void aClickInTheStripTurnsThePage();
     void theKeyboardTurnsPagesInTheStrip();
     void selectingAFileFetchesIt();
+    void theFirstBoardAsksForItsFileOnce();
     void aFileThatCannotBeHadSaysWhyAndIsAskedForAgain();
     void linksThatAreMissingSayNotFound();
     void severalFilesMakeOneReport();
@@ -138,6 +142,25 @@ void FileViewTest::theStripKeepsTheCurrentPageInView()
     QTRY_VERIFY(inView());
 }
 
+void FileViewTest::theStripKnowsTheCurrentPageAfterPagesCameInFront()
+{
+    m_live->begin();
+    Screen screen = shown();
+    QTRY_COMPARE(screen.all("PageCell").size(), 3);
+    m_live->store.turnPage(u"a"_s, 2);
+    FileDetail longer = aDetail(u"a"_s, 5);
+    std::rotate(longer.file.pages->begin(), longer.file.pages->end() - 2, longer.file.pages->end());
+    m_live->details.insert(u"a"_s, longer);
+    m_live->round();
+    QTRY_COMPARE(screen.all("PageCell").size(), 5);
+    QList<bool> current;
+    for (const QQuickItem *cell : screen.all("PageCell"))
+        current.append(cell->property("current").toBool());
+    QCOMPARE(current.count(true), 1);
+    const QQuickItem *list = screen.only("PageStrip")->findChild<QQuickItem *>(u"list"_s);
+    QCOMPARE(list->property("currentIndex").toInt(), 2);
+}
+
 void FileViewTest::aClickInTheStripTurnsThePage()
 {
     m_live->begin();
@@ -174,6 +197,14 @@ void FileViewTest::selectingAFileFetchesIt()
     m_live->store.selectFile(u"b"_s);
     QTRY_VERIFY(m_live->store.detail(u"b"_s));
     QCOMPARE(m_live->asked(), QStringList{u"GET /api/files/b"_s});
+}
+
+void FileViewTest::theFirstBoardAsksForItsFileOnce()
+{
+    Screen screen = shown();
+    m_live->store.resume();
+    QTRY_VERIFY(m_live->sleep.asleep());
+    QCOMPARE(m_live->client.server.requests("GET", "/api/files/a").size(), 1);
 }
 
 void FileViewTest::aFileThatCannotBeHadSaysWhyAndIsAskedForAgain()

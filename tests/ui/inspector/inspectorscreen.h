@@ -5,7 +5,8 @@
 
 namespace vexal::test {
 
-/// The inspector in a real window, on a real store that lives on a scripted server.
+/// The inspector in a real window, on a real store that lives on a scripted server. The key that closes things closes
+/// the close-up of the focused finding, as it does beside a canvas.
 class InspectorScreen
 {
 public:
@@ -71,6 +72,12 @@ import Vexal.Pieces
 import Vexal.Inspector
 Inspector {
     focus: true
+    ActionKeys {}
+    OnAction {
+        action: Actions.close
+        enabled: Store.focus !== ""
+        onTriggered: Store.clearFocus()
+    }
     state: InspectorState {
         store: Store
         time: PassingTime

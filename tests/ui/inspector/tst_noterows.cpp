@@ -1,5 +1,6 @@
 #include "boards.h"
 #include "composer.h"
+#include "derived.h"
 #include "noterow.h"
 #include "pinnumbers.h"
 #include "testclock.h"
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void notesOnTheWholeFileStandUnderTheFirstPages();
     void aFindingHasItsNotes();
     void pinsAreNumberedByPage();
+    void aNoteWithoutEndIsCutForTheScreen();
     void aResolvedNoteKeepsItsNumber();
     void halfAPlaceIsNoPin();
     void aRowSaysWhoAndWhen();
@@ -181,6 +183,13 @@ void NoteRowsTest::thePlaceholderFollowsThePin()
 {
     QCOMPARE(composerPlaceholder(false), u"Write a note for the report"_s);
     QCOMPARE(composerPlaceholder(true), u"Click the page where it goes…"_s);
+}
+
+void NoteRowsTest::aNoteWithoutEndIsCutForTheScreen()
+{
+    Note note = aNote(u"a"_s);
+    note.text = QString(1'000'000, u'a');
+    QCOMPARE(row(note).text, shownText(note.text));
 }
 
 QTEST_MAIN(NoteRowsTest)

@@ -63,10 +63,15 @@ private Q_SLOTS:
     void aNoteIsEdited();
     void aRefusedEditStaysOpenWithWhatWasTyped();
     void cancelLeavesTheNote();
+    void escapeEndsAnEditAndNothingElse();
+    void escapeInTheFieldDropsThePlaceFirst();
     void anEditSurvivesANewBoardWithItsCaret();
     void anEditOutlivesItsRow();
     void anEditGoesWithItsNote();
     void aResolvedNoteStaysInEdit();
+    void whatWasWrittenGoesWithWhoSignsOut();
+    void whatWasWrittenOutlivesASessionThatEnded();
+    void nobodyReadsWhatAnotherHasBegun();
     void deletionAsksFirst();
     void theMenuIsUsedByKeyboard();
     void notesOnAFindingStandInItsCard();
@@ -123,6 +128,22 @@ private:
         choose(0);
         QTRY_VERIFY(editor());
         QTRY_COMPARE(m_on->focus(), editor());
+    }
+
+    /// Begins a new note and the edit of one.
+    void writeAndEdit() const
+    {
+        write(u"Here"_s);
+        beginEdit();
+        m_on->screen->press(Qt::Key_End);
+        m_on->type(u" more"_s);
+    }
+    void signInAgain(const QString &email) const
+    {
+        QVERIFY(!m_on->live.store.signedIn());
+        m_on->live.board.me.email = email;
+        m_on->live.client.credentials.store(u"another"_s, &m_on->live.store, [] {});
+        QTRY_VERIFY(row());
     }
 
     std::unique_ptr<InspectorScreen> m_on;
@@ -428,6 +449,36 @@ void WritingTest::cancelLeavesTheNote()
     QCOMPARE(editor()->property("text"), u"A note"_s);
 }
 
+void WritingTest::escapeEndsAnEditAndNothingElse()
+{
+    show({aNote(u"n"_s, u"A note"_s)});
+    m_on->live.store.focusFinding(u"a"_s);
+    beginEdit();
+    m_on->type(u"x"_s);
+    m_on->screen->press(Qt::Key_Escape);
+    QTRY_VERIFY(!editor());
+    QCOMPARE(ofRow(u"text"_s)->property("text"), u"A note"_s);
+    QCOMPARE(m_on->focus(), ofRow(u"more"_s));
+    QCOMPARE(m_on->live.store.focus(), u"a"_s);
+    m_on->screen->press(Qt::Key_Escape);
+    QVERIFY(!m_on->live.store.focus());
+}
+
+void WritingTest::escapeInTheFieldDropsThePlaceFirst()
+{
+    show();
+    m_on->live.store.focusFinding(u"a"_s);
+    m_on->live.store.placePin({0.5, 0.5});
+    write(u"Here"_s);
+    m_on->screen->press(Qt::Key_Escape);
+    QVERIFY(!m_on->live.store.draftPin());
+    QCOMPARE(written(), u"Here"_s);
+    QCOMPARE(m_on->focus(), m_on->field());
+    QCOMPARE(m_on->live.store.focus(), u"a"_s);
+    m_on->screen->press(Qt::Key_Escape);
+    QVERIFY(!m_on->live.store.focus());
+}
+
 void WritingTest::anEditSurvivesANewBoardWithItsCaret()
 {
     show({aNote(u"n"_s, u"A note"_s)});
@@ -482,6 +533,36 @@ void WritingTest::aResolvedNoteStaysInEdit()
     m_on->waitForEnd();
     QVERIFY(editor());
     QVERIFY(editor()->property("text").toString().contains(u'x'));
+}
+
+void WritingTest::whatWasWrittenGoesWithWhoSignsOut()
+{
+    show({aNote(u"n"_s, u"A note"_s)});
+    writeAndEdit();
+    m_on->live.store.signOut();
+    signInAgain(u"ada@lanternhouse.example"_s);
+    QCOMPARE(written(), QString());
+    QVERIFY(!editor());
+}
+
+void WritingTest::whatWasWrittenOutlivesASessionThatEnded()
+{
+    show({aNote(u"n"_s, u"A note"_s)});
+    writeAndEdit();
+    m_on->live.store.signOut(true);
+    signInAgain(u"ada@lanternhouse.example"_s);
+    QCOMPARE(written(), u"Here"_s);
+    QCOMPARE(editor()->property("text"), u"A note more"_s);
+}
+
+void WritingTest::nobodyReadsWhatAnotherHasBegun()
+{
+    show({aNote(u"n"_s, u"A note"_s)});
+    writeAndEdit();
+    m_on->live.store.signOut(true);
+    signInAgain(u"teo@lanternhouse.example"_s);
+    QCOMPARE(written(), QString());
+    QVERIFY(!editor());
 }
 
 void WritingTest::deletionAsksFirst()

@@ -2,6 +2,7 @@
 #include "screen.h"
 #include "testclock.h"
 
+#include <QPainter>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,17 @@ Rectangle {
     }
 }
 )";
+
+constexpr QSize wide(5000, 20); ///< Wider than a tile, which ends at 4096.
+
+// Of one colour up to where a tile ends, and of another from there.
+QByteArray twoHalves(const QColor &left, const QColor &right)
+{
+    QImage image(wide, QImage::Format_RGB32);
+    image.fill(left);
+    QPainter(&image).fillRect(4096, 0, wide.width() - 4096, wide.height(), right);
+    return test::bytesOf(image);
+}
 
 } // namespace
 
@@ -44,6 +56,10 @@ private Q_SLOTS:
     void theDifferenceOfTwoKeysIsShown();
     void aStretchedPictureFillsTheItem();
     void aKnownPictureIsNeverAnEmptyFrame();
+    void tilesCoverAPictureOnce();
+    void aPictureOfSeveralTilesLiesPixelOnPixel();
+    void aPictureOfSeveralTilesHasNoSeamWhenItIsEnlarged();
+    void aDifferenceOfSeveralTilesLiesPixelOnPixel();
 
 private:
     void show(Images::Fetch fetch)
@@ -55,6 +71,7 @@ private:
     {
         return [bytes](const QString &, QObject *, const Images::Fetched &fetched) { fetched(bytes); };
     }
+    void showEndOfTile(int width);
     QColor at(int x, int y) { return m_screen->window().grabWindow().pixelColor(x, y); }
 
     Store m_store{TestClock().clock()};
@@ -216,6 +233,59 @@ void RemoteImageTest::aKnownPictureIsNeverAnEmptyFrame()
     QCOMPARE(at(120, 120), QColor(Qt::red));
     const auto picture = m_screen->images().cached(u"a"_s);
     QTRY_VERIFY(!m_screen->images().pixels().held(*picture, {150, 150}).isNull());
+}
+
+void RemoteImageTest::tilesCoverAPictureOnce()
+{
+    QCOMPARE(tilesOf({2480, 3508}), (QList<QRect>{{0, 0, 2480, 3508}}));
+    QCOMPARE(tilesOf({4096, 4096}), (QList<QRect>{{0, 0, 4096, 4096}}));
+    QCOMPARE(tilesOf({4097, 5000}),
+             (QList<QRect>{{0, 0, 4096, 4096}, {4096, 0, 1, 4096}, {0, 4096, 4096, 904}, {4096, 4096, 1, 904}}));
+}
+
+/// Shows a picture as wide as that, with the pixel where its first tile ends in the middle of the window.
+void RemoteImageTest::showEndOfTile(int width)
+{
+    m_picture->setStretch(true);
+    m_picture->setSize(QSizeF(width, 100));
+    m_picture->setX(100 - 4096.0 * width / wide.width());
+    m_picture->setKey(u"a"_s);
+    QTRY_VERIFY(m_picture->hasPicture());
+}
+
+void RemoteImageTest::aPictureOfSeveralTilesLiesPixelOnPixel()
+{
+    show(always(twoHalves(Qt::red, Qt::blue)));
+    showEndOfTile(wide.width());
+    const QImage frame = m_screen->window().grabWindow();
+    for (int x = 0; x < 200; ++x)
+        QCOMPARE(frame.pixelColor(x, 50), x < 100 ? QColor(Qt::red) : QColor(Qt::blue));
+}
+
+void RemoteImageTest::aPictureOfSeveralTilesHasNoSeamWhenItIsEnlarged()
+{
+    show(always(twoHalves(Qt::red, Qt::blue)));
+    showEndOfTile(8 * wide.width());
+    const QImage frame = m_screen->window().grabWindow();
+    QCOMPARE(frame.pixelColor(90, 50), QColor(Qt::red));
+    QCOMPARE(frame.pixelColor(110, 50), QColor(Qt::blue));
+    // Red becomes blue, and nothing of what lies under it is seen between them.
+    for (int x = 90; x < 110; ++x) {
+        QCOMPARE(frame.pixelColor(x, 50).green(), 0);
+        QVERIFY(frame.pixelColor(x + 1, 50).blue() >= frame.pixelColor(x, 50).blue());
+    }
+}
+
+void RemoteImageTest::aDifferenceOfSeveralTilesLiesPixelOnPixel()
+{
+    show([](const QString &key, QObject *, const Images::Fetched &fetched) {
+        fetched(key == u"a"_s ? twoHalves({200, 0, 0}, {90, 0, 0}) : twoHalves({150, 0, 0}, {90, 0, 0}));
+    });
+    m_picture->setDifference(u"b"_s);
+    showEndOfTile(wide.width());
+    const QImage frame = m_screen->window().grabWindow();
+    for (int x = 0; x < 200; ++x)
+        QCOMPARE(frame.pixelColor(x, 50), x < 100 ? QColor(50, 0, 0) : QColor(Qt::black));
 }
 
 QTEST_MAIN(RemoteImageTest)

@@ -42,6 +42,16 @@ TestCase {
         id: submitted
         signalName: "submitted"
     }
+    SignalSpy {
+        id: escaped
+        signalName: "escaped"
+    }
+    Shortcut {
+        id: closes
+        property int times: 0
+        sequence: "Escape"
+        onActivated: closes.times += 1
+    }
 
     function make(properties) {
         const piece = createTemporaryObject(area, test, properties || {});
@@ -120,6 +130,21 @@ TestCase {
         keyClick(Qt.Key_Enter, Qt.ControlModifier | Qt.KeypadModifier);
         compare(submitted.count, 2);
         compare(piece.text, "a\n");
+    }
+
+    function test_escapeIsTheFieldsOwnOnlyWhereItKeepsIt() {
+        const piece = make({text: "one"});
+        escaped.target = piece;
+        escaped.clear();
+        closes.times = 0;
+        keyClick(Qt.Key_Escape);
+        compare(closes.times, 1);
+        compare(escaped.count, 0);
+        piece.keepsEscape = true;
+        keyClick(Qt.Key_Escape);
+        compare(closes.times, 1);
+        compare(escaped.count, 1);
+        compare(piece.text, "one");
     }
 
     function test_tabGoesOnAndBack() {

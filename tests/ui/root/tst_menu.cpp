@@ -294,9 +294,8 @@ void MenuTest::markReviewedWithTwoFilesDoesNothing()
 void MenuTest::aTextFieldKeepsItsTypingAndTheShortcutsStillAct()
 {
     show();
-    const auto fields = m_screen->all("TextArea");
-    QVERIFY(!fields.isEmpty());
-    QQuickItem *field = fields.first();
+    QTRY_VERIFY(!m_screen->all("TextArea").isEmpty());
+    QQuickItem *field = m_screen->all("TextArea").first();
     m_screen->click(field);
     QTRY_VERIFY(field->property("writing").toBool());
     for (const char letter : "srpdy")

@@ -3,6 +3,7 @@
 #include "screen.h"
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTest>
 
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void aProblemBeforeTheFirstBoardShowsNone();
     void aNewerVersionIsOfferedAboveTheProblem();
     void anOfferWithoutNotesShowsNone();
+    void aTextOfAMegabyteReachesNoScreenWhole();
     void signingInWaitsForThePersonWhoMayThinkBetterOfIt();
     void theSignInPageCanBeOpenedElsewhere();
     void theAccountMenuSignsOut();
@@ -209,6 +211,51 @@ void RootTest::anOfferWithoutNotesShowsNone()
     screen.click(screen.only("UpdateBanner")->findChild<QQuickItem *>(u"download"_s));
     QVERIFY(live.store.update());
     QVERIFY(!live.store.toast());
+}
+
+void RootTest::aTextOfAMegabyteReachesNoScreenWhole()
+{
+    const QString vast = u"vast "_s.repeated(200'000);
+    FileItem file = aFile(u"a"_s);
+    file.title = file.supplier = file.po = file.sender = vast;
+    Finding finding = aFinding(u"x"_s, 0, u"high"_s);
+    finding.against = u"submitted"_s;
+    finding.kind = u"words"_s;
+    finding.title = vast;
+    finding.detail = finding.before = finding.state_by = vast;
+    finding.after = vast + u'.';
+    finding.box = {0.1, 0.1, 0.2, 0.2};
+    const Note note{.id = u"n"_s, .file_id = file.id, .page = 0, .x = 0.5, .y = 0.5, .text = vast, .by = vast};
+    Sample sample = sampleOf({file});
+    FileDetail &detail = sample.details[file.id];
+    const QList<Page> pages = *detail.file.pages;
+    detail.file = file;
+    detail.file.pages = pages;
+    detail.file.pages->first().label = vast;
+    detail.findings = {finding};
+    detail.comments = {note};
+    Job job = aJob(u"sync"_s, u"running"_s);
+    job.step = job.requested_by = vast;
+    job.steps = {vast, vast};
+    sample.board.sync = job;
+    sample.board.users = {aPerson(vast, vast)};
+    sample.board.events = {{.id = 1, .by = vast, .kind = u"comment"_s, .text = vast}};
+
+    QElapsedTimer since;
+    since.start();
+    show();
+    m_store->takeSample(sample);
+    m_store->selectFile(file.id);
+    m_store->focusFinding(finding.id);
+    m_store->setShowActivity(true);
+    m_store->showToast(vast);
+    QTRY_VERIFY(m_screen->texts().contains(shownText(vast)));
+    QVERIFY(QQuickTest::qWaitForPolish(&m_screen->window()));
+    for (const QString &text : m_screen->texts())
+        QVERIFY2(text.size() < 10 * longestShown, qPrintable(text.left(40)));
+    QCOMPARE(m_screen->all("FindingCard").size(), 1);
+    QCOMPARE(m_screen->all("NoteRow").size(), 1);
+    QVERIFY2(since.elapsed() < 10'000, qPrintable(QString::number(since.elapsed())));
 }
 
 void RootTest::signingInWaitsForThePersonWhoMayThinkBetterOfIt()
