@@ -1,5 +1,10 @@
-// What a person waits for on the canvas: from asking for it until the frame that shows it, in milliseconds. Each is
-// asked for twenty times; the first row, a frame in which nothing changed, is the floor.
+// What a person waits for on the canvas: from asking for it until the frame that shows it, in milliseconds. The first
+// row of each run, a frame in which nothing changed, is its floor.
+//   bench_canvas SAMPLE          on the sample board
+//   bench_canvas FOLDER long     on a file of many large pages, whose pictures are put into the folder
+//   bench_canvas FOLDER cards    scrolling the cards of a page with 500 findings: processor time a frame
+#include "difference.h"
+#include "longfile.h"
 #include "moment.h"
 #include "pagezoom.h"
 #include "remoteimage.h"
@@ -7,12 +12,15 @@
 #include "typeface.h"
 #include "vexalapp.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
+#include <future>
 
 using namespace vexal;
 using namespace vexal::bench;
@@ -20,7 +28,11 @@ using namespace vexal::bench;
 namespace {
 
 constexpr int rounds = 20;
-constexpr int settling = 400; ///< Milliseconds between two: what is decoded ahead gets done.
+constexpr int settling = 400;     ///< Milliseconds between two: what is decoded ahead gets done.
+constexpr int longSettling = 900; ///< The same for large pages.
+constexpr int farAway = 3;        ///< Pages: nothing of such a page is decoded ahead.
+constexpr int scrolledFrames = 300;
+constexpr int scrolledPoints = 20; ///< A frame.
 
 QList<RemoteImage *> shownPictures(QQuickItem *item)
 {
@@ -34,12 +46,26 @@ QList<RemoteImage *> shownPictures(QQuickItem *item)
     return pictures;
 }
 
+template <typename Fits>
+QQuickItem *find(QQuickItem *item, Fits fits)
+{
+    if (fits(*item))
+        return item;
+    for (QQuickItem *child : item->childItems()) {
+        if (QQuickItem *found = find(child, fits))
+            return found;
+    }
+    return nullptr;
+}
+
 class Canvas
 {
 public:
     explicit Canvas(VexalApp &app)
         : m_app(app)
-        , m_canvas(find(app.window().contentItem(), "CompareCanvas"))
+        , m_canvas(find(app.window().contentItem(), [](const QQuickItem &item) {
+            return QByteArray(item.metaObject()->className()).startsWith("CompareCanvas");
+        }))
     {
     }
 
@@ -54,38 +80,46 @@ public:
         const QString file = store().current()->id;
         store().turnPage(file, store().shownPage(file) == 3 ? 4 : 3);
     }
+    void turnOn(int pages)
+    {
+        const QString file = store().current()->id;
+        store().turnPage(file, store().shownPage(file) + pages);
+    }
 
     /// Milliseconds from a change to the frame in which every picture it asked for is shown.
     template <typename Change>
-    double measured(Change change)
+    double measured(Change change, int pause = settling)
     {
         QList<double> times;
         for (int i = 0; i < rounds; ++i) {
-            wait(settling);
+            wait(pause);
             QElapsedTimer clock;
             clock.start();
             change();
-            frame();
+            // Frames that show nothing new would keep the processor from what is waited for.
             while (!ready())
-                frame();
+                wait(1);
+            frame();
             times.append(double(clock.nsecsElapsed()) / 1e6);
         }
         std::sort(times.begin(), times.end());
         return times[times.size() / 2];
     }
 
-private:
-    static QQuickItem *find(QQuickItem *item, const QByteArray &type)
+    /// Milliseconds of processor time, of all threads, for each of many frames with a change before it.
+    template <typename Change>
+    double spent(Change change)
     {
-        if (QByteArray(item->metaObject()->className()).startsWith(type))
-            return item;
-        for (QQuickItem *child : item->childItems()) {
-            if (QQuickItem *found = find(child, type))
-                return found;
+        wait(longSettling);
+        const double before = processorSeconds();
+        for (int i = 0; i < scrolledFrames; ++i) {
+            change();
+            frame();
         }
-        return nullptr;
+        return (processorSeconds() - before) * 1000 / scrolledFrames;
     }
 
+private:
     bool ready() const
     {
         const auto pictures = shownPictures(m_canvas);
@@ -110,25 +144,8 @@ private:
     QQuickItem *m_canvas;
 };
 
-} // namespace
-
-int main(int argc, char **argv)
+void measureSample(Canvas &canvas)
 {
-    if (argc < 2)
-        return 2;
-    prepareProcess();
-    QGuiApplication application(argc, argv);
-    applyTypeface(application, Typeface::Ours);
-    const QString folder = QString::fromLocal8Bit(argv[1]);
-    SampleRead read = readSample(folder);
-    if (!read.sample)
-        return 1;
-    const auto fetchNothing = [](const QString &, QObject *, const Images::Fetched &fetched) { fetched(std::nullopt); };
-    VexalApp app({clockFrom(latestMoment(*read.sample)), QString(), fetchNothing});
-    app.showSample(std::move(*read.sample), folder);
-    app.show();
-
-    Canvas canvas(app);
     Store &store = canvas.store();
     tell("floor", canvas.measured([] {}));
     tell("page_turn_side_by_side", canvas.measured([&] { canvas.turn(); }));
@@ -148,5 +165,87 @@ int main(int argc, char **argv)
         PageZoom &zoom = canvas.zoom();
         zoom.zoomBy(step++ % 10 == 9 ? 0.01 : 1.2, {200, 200}, zoom.property("page").toSizeF());
     }));
+}
+
+/// From two files to their difference, as a page turn does it, without a window.
+double differenceOfFiles(const QString &folder)
+{
+    const auto decoded = [&folder](const char *name) {
+        const Picture picture = *Picture::fromFile(folder + u'/' + QLatin1String(name));
+        return picture.decoded(picture.size());
+    };
+    QList<double> times;
+    for (int i = 0; i < rounds; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        auto ours = std::async(std::launch::async, decoded, ourPage);
+        const QImage theirs = decoded(supplierPage);
+        if (pageDifference(theirs, ours.get()).isNull())
+            return 0;
+        times.append(double(clock.nsecsElapsed()) / 1e6);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+void measureLongFile(Canvas &canvas, const QString &folder)
+{
+    tell("large_floor", canvas.measured([] {}));
+    tell("cold_page_turn", canvas.measured([&] { canvas.turnOn(farAway); }, longSettling));
+    canvas.store().setMode(CompareMode::Overlay);
+    canvas.set("difference", true);
+    tell("difference_of_the_next_page", canvas.measured([&] { canvas.turnOn(1); }, longSettling));
+    tell("difference_of_a_cold_page", canvas.measured([&] { canvas.turnOn(farAway); }, longSettling));
+    tell("difference_of_two_files", differenceOfFiles(folder));
+}
+
+/// The inspector's column, which stands once the pages do.
+QQuickItem &columnOf(VexalApp &app)
+{
+    const auto isColumn = [](const QQuickItem &item) { return item.objectName() == QLatin1String("column"); };
+    QQuickItem *column = nullptr;
+    while (!(column = find(app.window().contentItem(), isColumn)))
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return *column;
+}
+
+void measureCards(Canvas &canvas, QQuickItem &column)
+{
+    const auto scroll = [&] { column.setProperty("contentY", column.property("contentY").toReal() + scrolledPoints); };
+    // Where the pointer rests on them, card after card is entered and left.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    tell("frame_floor", canvas.spent([] {}));
+    tell("frame_scrolling_500_cards", canvas.spent(scroll));
+    QCursor::setPos(column.mapToGlobal(QPointF(column.width() / 2, column.height() / 2)).toPoint());
+    tell("frame_scrolling_under_the_pointer", canvas.spent(scroll));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc < 2)
+        return 2;
+    prepareProcess();
+    QGuiApplication application(argc, argv);
+    applyTypeface(application, Typeface::Ours);
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    const QByteArray what(argc > 2 ? argv[2] : "");
+    const bool cards = what == "cards";
+    std::optional<Sample> sample = what.isEmpty() ? readSample(folder).sample
+                                                  : longFile(folder, cards ? 1 : 3 * farAway * rounds, cards ? 500 : 0);
+    if (!sample)
+        return 1;
+    VexalApp app({clockFrom(latestMoment(*sample)), QString(), Images::fetchNothing});
+    app.showSample(std::move(*sample), folder);
+    app.show();
+
+    Canvas canvas(app);
+    if (cards)
+        measureCards(canvas, columnOf(app));
+    else if (what == "long")
+        measureLongFile(canvas, folder);
+    else
+        measureSample(canvas);
     return 0;
 }

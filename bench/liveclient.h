@@ -5,9 +5,8 @@
 #include "desktopopener.h"
 #include "dialogfilepicker.h"
 #include "filepreferences.h"
-#include "launcherbadge.h"
 #include "memorycredentialstore.h"
-#include "notifications.h"
+#include "quietdesktop.h"
 #include "systemnetworkpresence.h"
 #include "vexalapp.h"
 
@@ -15,21 +14,6 @@
 #include <QTemporaryDir>
 
 namespace vexal::bench {
-
-/// Counts nothing on anybody's desktop.
-class NoBadge : public LauncherBadge
-{
-public:
-    void show(int) override {}
-};
-
-/// Tells nobody of anything.
-class NoNotifications : public Notifications
-{
-public:
-    void show(const QString &, const QString &) override {}
-    void withdraw() override {}
-};
 
 /// The whole client on a server, in this process, with nothing on the desktop but its window.
 class LiveClient

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
 using namespace vexal;
@@ -29,7 +30,7 @@ bool pagesShown(const QQuickItem *item)
     const auto visit = [&shown](const auto &self, const QQuickItem *at) -> bool {
         if (const auto *picture = qobject_cast<const RemoteImage *>(at);
             picture && picture->isVisible() && !picture->key().isEmpty() && at->height() > 200) {
-            if (!picture->hasPicture())
+            if (!picture->isSharp())
                 return false;
             ++shown;
         }
@@ -48,13 +49,23 @@ public:
         , m_start(std::move(start))
         , m_longer(longer)
     {
+        connect(
+            &app.window(), &QQuickWindow::afterSynchronizing, this,
+            [this] { m_inFrame = pagesShown(m_app.window().contentItem()); }, Qt::DirectConnection);
+        connect(
+            &app.window(), &QQuickWindow::frameSwapped, this,
+            [this] {
+                if (m_inFrame && m_swapped == 0)
+                    m_swapped = millisecondsSince(m_start);
+            },
+            Qt::DirectConnection);
         connect(&app.window(), &QQuickWindow::frameSwapped, this, [this] { frame(); });
     }
 
 private:
     void frame()
     {
-        if (m_phase == Starting && pagesShown(m_app.window().contentItem()))
+        if (m_phase == Starting && m_inFrame)
             started();
         else if (m_phase == Turning)
             turned();
@@ -62,7 +73,7 @@ private:
 
     void started()
     {
-        tell("start", millisecondsSince(m_start));
+        tell("start", m_swapped);
         m_phase = Resting;
         if (!m_longer)
             return QCoreApplication::quit();
@@ -93,7 +104,7 @@ private:
     void turned()
     {
         ++m_frames;
-        if (!pagesShown(m_app.window().contentItem()))
+        if (!m_inFrame)
             return;
         if (m_turn >= 2) {
             m_milliseconds.append(double(m_clock.nsecsElapsed()) / 1e6);
@@ -119,6 +130,9 @@ private:
     QByteArray m_start;
     bool m_longer;
     Phase m_phase = Starting;
+    std::atomic_bool m_inFrame = false; ///< The frame that was handed over last has both pages.
+    /// When the first frame with both pages was on the screen, in milliseconds since the start.
+    std::atomic<double> m_swapped = 0;
     int m_turn = 0;
     int m_frames = 0;
     int m_mostFrames = 0;
@@ -139,8 +153,7 @@ int main(int argc, char **argv)
     SampleRead read = readSample(folder);
     if (!read.sample)
         return 1;
-    const auto fetchNothing = [](const QString &, QObject *, const Images::Fetched &fetched) { fetched(std::nullopt); };
-    VexalApp app({clockFrom(latestMoment(*read.sample)), QString(), fetchNothing});
+    VexalApp app({clockFrom(latestMoment(*read.sample)), QString(), Images::fetchNothing});
     app.showSample(std::move(*read.sample), folder);
     Measure measure(app, argv[1], argc > 3);
     app.show();

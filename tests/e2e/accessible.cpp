@@ -16,7 +16,9 @@ constexpr auto actionInterface = "org.a11y.atspi.Action"_L1;
 constexpr int patience = 10'000;      ///< Milliseconds for one answer.
 constexpr int mostVisited = 5000;     ///< So many on one way through, should a tree run in a circle.
 constexpr uint screenCoordinates = 0; ///< As against those of the window.
-constexpr uint enabled = 8;           ///< Numbers of states.
+constexpr uint checked = 4;           ///< Numbers of states.
+constexpr uint enabled = 8;
+constexpr uint focused = 12;
 constexpr uint showing = 25;
 
 } // namespace
@@ -73,6 +75,16 @@ bool Accessible::isEnabled() const
 bool Accessible::isShowing() const
 {
     return hasState(showing);
+}
+
+bool Accessible::isFocused() const
+{
+    return hasState(focused);
+}
+
+bool Accessible::isChecked() const
+{
+    return hasState(checked);
 }
 
 QList<Accessible> Accessible::children() const

@@ -24,6 +24,8 @@ public:
     QList<Accessible> children() const;
     bool isEnabled() const;
     bool isShowing() const; ///< As against there, but hidden.
+    bool isFocused() const; ///< It has the keyboard.
+    bool isChecked() const; ///< It is on.
 
     /// Where it is on the screen, in pixels.
     QRect place() const;

@@ -1,5 +1,8 @@
 #include "stage.h"
 
+#include <QDirIterator>
+#include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 #include <QThread>
 
@@ -15,6 +18,12 @@ namespace {
 const QString button = u"push button"_s;
 const QString signInButton = u"Sign in with Google"_s;
 const QString newFile = u"The Winter Tram Advent calendar"_s;
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 /// Counts, as often as it can look, how often a place of the display holds these pixels.
 class Glimpses
@@ -49,21 +58,37 @@ private Q_SLOTS:
 
     void thePersonSignsInThroughTheBrowser();
     void aRestartGoesStraightToTheBoard();
+    void aFrozenKeyringKeepsNobodyFromTheSignInScreen();
     void whatSomebodyElseDoesIsToldInAToast();
     void aBoardThatIsAwayIsSaidSoUntilItIsBack();
     void aRevokedTokenLeadsToTheSignInScreen();
+    void theTokenStandsNowhereButInTheKeyring();
     void signingOutLeavesNothing();
+    void signingOutOfAKeyringThatWasRestartedLeavesNothing();
     void aSecondStartHandsItsUrlOverAndEnds();
     void aSyncBringsTheNewFile();
     void stopStopsTheSync();
     void aBoardKilledInTheMiddleOfASyncGoesOn();
 
 private:
+    bool signsOut(const VexalProcess &vexal);
     int port() const { return m_stage->port(); }
     Desk &desk() const { return m_stage->desk(); }
 
     std::unique_ptr<Stage> m_stage;
 };
+
+/// Signs out by the menu: nothing of the board is left on the screen, and nothing of the token in the keyring.
+bool StoriesTest::signsOut(const VexalProcess &vexal)
+{
+    const auto press = [&] {
+        const auto item = vexal.find(u"menu item"_s, u"Sign out"_s);
+        return item && item->press();
+    };
+    const auto isOut = [&] { return vexal.shows(button, signInButton) && m_stage->keptTokens().isEmpty(); };
+    return vexal.press(u"Account"_s) && QTest::qWaitFor(press, Stage::patience) &&
+           QTest::qWaitFor(isOut, Stage::patience) && !showsTheBoard(vexal);
+}
 
 void StoriesTest::thePersonSignsInThroughTheBrowser()
 {
@@ -114,6 +139,17 @@ void StoriesTest::aRestartGoesStraightToTheBoard()
     QVERIFY(!vexal->shows(button, signInButton));
 }
 
+void StoriesTest::aFrozenKeyringKeepsNobodyFromTheSignInScreen()
+{
+    m_stage->keepTokenOf(mira);
+    desk().keyring().freeze();
+    const auto thaw = qScopeGuard([this] { desk().keyring().thaw(); });
+    const VexalProcess vexal(desk(), port());
+    WAIT_FOR(vexal.shows(button, signInButton));
+    desk().keyring().thaw();
+    WAIT_FOR(showsTheBoard(vexal));
+}
+
 void StoriesTest::whatSomebodyElseDoesIsToldInAToast()
 {
     const auto vexal = m_stage->startSignedIn();
@@ -143,18 +179,44 @@ void StoriesTest::aRevokedTokenLeadsToTheSignInScreen()
     WAIT_FOR(m_stage->keptTokens().isEmpty());
 }
 
+void StoriesTest::theTokenStandsNowhereButInTheKeyring()
+{
+    const auto vexal = m_stage->startSignedIn();
+    const QByteArray token = m_stage->keptTokens().value(0).toUtf8();
+    QVERIFY(token.size() >= 16);
+    // A refusal is said in an error sentence, and signs out.
+    QCOMPARE(Visitor(port(), QString::fromUtf8(token)).post(u"/api/logout"_s).status, 200);
+    WAIT_FOR(vexal->says(u"You're signed out. Sign in again."_s));
+    QVERIFY(!vexal->errors().contains(token));
+    for (const QString &told : {u"cmdline"_s, u"environ"_s})
+        QVERIFY2(!contentOf(u"/proc/%1/%2"_s.arg(vexal->id()).arg(told)).contains(token), qPrintable(told));
+    int files = 0;
+    for (QDirIterator file(desk().path({}), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+         file.hasNext();) {
+        QVERIFY2(!contentOf(file.next()).contains(token), qPrintable(file.filePath()));
+        ++files;
+    }
+    QVERIFY(files > 0);
+}
+
 void StoriesTest::signingOutLeavesNothing()
 {
     const auto vexal = m_stage->startSignedIn();
     const QString token = m_stage->keptTokens().value(0);
-    QVERIFY(vexal->press(u"Account"_s));
-    WAIT_FOR(vexal->shows(u"menu item"_s, u"Sign out"_s));
-    QVERIFY(vexal->find(u"menu item"_s, u"Sign out"_s)->press());
-    WAIT_FOR(vexal->shows(button, signInButton));
-    QVERIFY(!showsTheBoard(*vexal));
-    WAIT_FOR(m_stage->keptTokens().isEmpty());
+    QVERIFY(signsOut(*vexal));
     // The board knows the token no more, either.
     WAIT_FOR(Visitor(port(), token).get(u"/api/state"_s).status == 401);
+    QCOMPARE(vexal->errors(), QByteArray());
+}
+
+void StoriesTest::signingOutOfAKeyringThatWasRestartedLeavesNothing()
+{
+    const auto vexal = m_stage->startSignedIn();
+    desk().keyring().stop();
+    desk().keyring().start();
+    QCOMPARE(m_stage->keptTokens().size(), 1);
+    QVERIFY(signsOut(*vexal));
+    QCOMPARE(vexal->errors(), QByteArray());
 }
 
 void StoriesTest::aSecondStartHandsItsUrlOverAndEnds()
