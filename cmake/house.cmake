@@ -9,7 +9,8 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 find_program(CCACHE ccache)
 if(CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+                                  CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
 endif()
 
 if(VEXAL_SANITIZE)
@@ -36,11 +37,43 @@ if(CMAKE_BUILD_TYPE STREQUAL Release)
   list(APPEND VEXAL_WARNINGS -Wno-maybe-uninitialized)
 endif()
 
+set(VEXAL_DEFINITIONS QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
 function(vexal_own target)
   target_compile_options(${target} PRIVATE ${VEXAL_WARNINGS})
-  target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
-                                               QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  target_compile_definitions(${target} PRIVATE ${VEXAL_DEFINITIONS})
 endfunction()
+
+# vexal_headers(name OF library HEADERS ...): headers that most sources include, read once for all that reuse them. A
+# source includes what it needs all the same: the linter reads it without.
+function(vexal_headers name)
+  if(VEXAL_FUZZ)
+    return()
+  endif()
+  cmake_parse_arguments(arg "" "OF" "HEADERS" ${ARGN})
+  file(TOUCH ${PROJECT_BINARY_DIR}/${name}.cpp)
+  add_library(${name} OBJECT ${PROJECT_BINARY_DIR}/${name}.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  target_link_libraries(${name} PRIVATE ${arg_OF})
+  target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+  # Told to the preprocessor as it writes, or the compiler cache cannot know what a source was made of.
+  target_compile_options(${name} PRIVATE -fpch-preprocess)
+  vexal_own(${name})
+endfunction()
+
+function(vexal_reuse target headers)
+  if(VEXAL_FUZZ)
+    return()
+  endif()
+  target_precompile_headers(${target} REUSE_FROM ${headers})
+  target_compile_options(${target} PRIVATE -fpch-preprocess)
+endfunction()
+
+set(VEXAL_OFTEN <algorithm> <chrono> <cmath> <functional> <limits> <memory> <optional> <utility>
+                <QDateTime> <QHash> <QJsonObject> <QList> <QObject> <QPointer> <QSet> <QString> <QStringList> <QTimer> <QUrl> <QVariant>)
+vexal_headers(vexal_headers_core OF Qt6::Core HEADERS ${VEXAL_OFTEN})
+vexal_headers(vexal_headers_screens OF Qt6::Quick
+  HEADERS ${VEXAL_OFTEN} <QtQml/qqmlprivate.h> <QAbstractListModel> <QGuiApplication> <QPainter> <QQmlContext> <QQmlEngine> <QQuickItem> <QQuickWindow>)
 
 # vexal_library(name SOURCES ... USES ...): one folder of src as a library. USES is the arrow of the house: what is not
 # named there cannot be included.
@@ -50,6 +83,7 @@ function(vexal_library name)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_PRIVATELY})
   vexal_own(${name})
+  vexal_reuse(${name} vexal_headers_core)
 endfunction()
 
 # vexal_screens(name URI uri QML ... SOURCES ... USES ...): one place of the window as a QML module and its C++.
@@ -67,7 +101,8 @@ function(vexal_screens name)
     DEPENDENCIES QtQuick ${arg_DERIVES} IMPORTS ${arg_IMPORTS})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC Qt6::Quick ${arg_USES})
-  target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+  target_compile_definitions(${name} PRIVATE ${VEXAL_DEFINITIONS})
+  vexal_reuse(${name} vexal_headers_screens)
   foreach(file IN LISTS arg_SOURCES)
     if(file MATCHES "\\.cpp$")
       set_source_files_properties(${file} PROPERTIES COMPILE_OPTIONS "${VEXAL_WARNINGS}")
@@ -97,6 +132,8 @@ function(vexal_test name)
   add_executable(test_${name} ${arg_SOURCES})
   target_link_libraries(test_${name} PRIVATE Qt6::Test ${arg_USES})
   vexal_own(test_${name})
+  # Qt's own headers for tests are told each test's folder: those cannot be shared.
+  vexal_reuse(test_${name} vexal_headers_core)
   add_test(NAME ${name} COMMAND test_${name})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
