@@ -1,6 +1,6 @@
 #include "difference.h"
 
-#include <cstdlib>
+#include <algorithm>
 
 namespace vexal {
 
@@ -12,6 +12,16 @@ QImage atSize(const QImage &page, QSize size)
     return plain.size() == size ? plain : plain.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+// Leaves in each channel of the pixels how far it is from the other's. Written so that the compiler takes many at once.
+void subtract(uchar *line, const uchar *other, int pixels)
+{
+    for (int i = 0; i < pixels * 4; ++i)
+        line[i] = uchar(std::max(line[i], other[i]) - std::min(line[i], other[i]));
+    auto *whole = reinterpret_cast<QRgb *>(line);
+    for (int i = 0; i < pixels; ++i)
+        whole[i] |= 0xff000000;
+}
+
 } // namespace
 
 QImage pageDifference(const QImage &supplier, const QImage &ours)
@@ -21,20 +31,10 @@ QImage pageDifference(const QImage &supplier, const QImage &ours)
     const qint64 theirArea = qint64(supplier.width()) * supplier.height();
     const qint64 ourArea = qint64(ours.width()) * ours.height();
     const QSize size = theirArea >= ourArea ? supplier.size() : ours.size();
-    const QImage a = atSize(supplier, size);
-    const QImage b = atSize(ours, size);
-
-    QImage difference(size, QImage::Format_RGB32);
-    const int count = size.width() * 4;
-    for (int y = 0; y < size.height(); ++y) {
-        const uchar *theirs = a.constScanLine(y);
-        const uchar *our = b.constScanLine(y);
-        uchar *line = difference.scanLine(y);
-        for (int i = 0; i < count; ++i)
-            line[i] = uchar(std::abs(theirs[i] - our[i]));
-        for (int i = 3; i < count; i += 4)
-            line[i] = 0xff;
-    }
+    QImage difference = atSize(supplier, size);
+    const QImage other = atSize(ours, size);
+    for (int y = 0; y < size.height(); ++y)
+        subtract(difference.scanLine(y), other.constScanLine(y), size.width());
     return difference;
 }
 

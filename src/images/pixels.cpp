@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <future>
+#include <utility>
 
 namespace vexal {
 
@@ -119,18 +120,35 @@ void Pixels::load(const Source &source, QSize level, Urgency urgency, QObject *c
     auto job = m_jobs.find(key);
     const bool isNew = job == m_jobs.end();
     if (isNew)
-        job = m_jobs.insert(key, Job{urgency, std::make_shared<std::atomic_bool>(true), {}});
+        job = m_jobs.insert(key, Job{source, urgency, std::make_shared<std::atomic_bool>(true), {}});
     job->waiters.append({context, done});
-    if (!isNew && job->urgency >= urgency)
-        return;
-    // One that has become more urgent is handed over once more; the first worker to come takes it.
-    job->urgency = urgency;
-    const auto begin = [open = job->open, work = work(key, source)] {
+    const bool isMoreUrgent = job->urgency < urgency;
+    job->urgency = std::max(job->urgency, urgency);
+    // One that has become more urgent may have been handed over before; the first worker to come takes it.
+    if (urgency == Urgency::Shown && (isNew || isMoreUrgent))
+        handOver(key, *job);
+    if (urgency == Urgency::Ahead && isNew)
+        m_later.append(key);
+    if (!isBusy())
+        beginAhead();
+}
+
+void Pixels::handOver(const Key &key, const Job &job)
+{
+    const auto begin = [open = job.open, work = work(key, *job.source)] {
         if (open->exchange(false))
             work();
     };
-    QThreadPool &workers = urgency == Urgency::Shown ? m_workers : m_aheadWorker;
-    workers.start(begin, rank(level));
+    QThreadPool &workers = job.urgency == Urgency::Shown ? m_workers : m_aheadWorker;
+    workers.start(begin, rank(key.size));
+}
+
+void Pixels::beginAhead()
+{
+    for (const Key &key : std::exchange(m_later, {})) {
+        if (const auto job = m_jobs.constFind(key); job != m_jobs.cend() && job->urgency == Urgency::Ahead)
+            handOver(key, *job);
+    }
 }
 
 // Takes jobs back whose askers have all gone, unless they are under way.
@@ -183,8 +201,10 @@ void Pixels::finish(const Key &key, const QImage &image, const Key &wholeKey, co
         if (waiter.context)
             waiter.done(image);
     }
-    if (!isBusy())
-        Q_EMIT rested();
+    if (isBusy())
+        return;
+    beginAhead();
+    Q_EMIT rested();
 }
 
 bool Pixels::isBusy() const

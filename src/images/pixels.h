@@ -67,10 +67,10 @@ public:
     QImage held(const Source &source, QSize level);
     /// The largest level of a source that is held, to stand in for another; null when there is none.
     QImage heldInstead(const Source &source);
-    /// Answers a level: at once when it is held, else when it is made; null when the picture turns out to be none. What
-    /// is shown is made first, and of that what is largest. Nothing is answered to a context that has gone, and what
-    /// nobody waits for any more is not begun. The difference
-    /// of two pages is taken at their full size, whatever the level, and is held at that size as well.
+    /// Answers a level: at once when it is held, else when it is made; null when the picture turns out to be none. Of
+    /// what is shown the largest is made first; what may be shown next is begun when all that is done. Nothing is
+    /// answered to a context that has gone, and what nobody waits for any more is not begun. The difference of two
+    /// pages is taken at their full size, whatever the level, and is held at that size as well.
     void load(const Source &source, QSize level, Urgency urgency, QObject *context, const Done &done);
 
     /// Something that is looked at is being made.
@@ -106,6 +106,7 @@ private:
     };
     struct Job
     {
+        std::optional<Source> source;
         Urgency urgency = Urgency::Ahead;
         std::shared_ptr<std::atomic_bool> open; ///< Whoever takes this away has the job, or has called it off.
         QList<Waiter> waiters;
@@ -113,6 +114,8 @@ private:
 
     static Key keyOf(const Source &source, QSize level);
     void callOff();
+    void handOver(const Key &key, const Job &job);
+    void beginAhead();
     std::function<void()> work(const Key &key, const Source &source);
     std::function<void()> subtraction(const Key &key, const Source &source);
     void tell(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole);
@@ -126,8 +129,9 @@ private:
     quint64 m_wanted = 0;
     QHash<Key, Level> m_levels;
     QHash<Key, Job> m_jobs;
+    QList<Key> m_later; ///< What may be shown next, in the order in which it was asked for.
     QThreadPool m_workers;
-    QThreadPool m_aheadWorker; ///< For what may be shown: it never takes all processors from what is.
+    QThreadPool m_aheadWorker; ///< For what may be shown: it never takes all processors from what comes to be.
 };
 
 } // namespace vexal

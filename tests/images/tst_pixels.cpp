@@ -39,6 +39,7 @@ private Q_SLOTS:
     void whatWasWantedLastStays();
     void aContextThatIsGoneIsToldNothing();
     void whatIsShownIsDecodedBeforeWhatMayBe();
+    void whatMayBeShownIsBegunWhenWhatIsShownIsMade();
     void whatNobodyWaitsForIsNotBegun();
     void whatBecomesUrgentIsMadeOnce();
     void theWorkersAreAwaitedAtTheEnd();
@@ -177,6 +178,19 @@ void PixelsTest::whatIsShownIsDecodedBeforeWhatMayBe()
     pixels.load(small, {50, 50}, Pixels::Urgency::Shown, this, [&order](const QImage &) { order.append(100); });
     QTRY_COMPARE(order.size(), 13);
     QVERIFY2(order.indexOf(100) <= 8, qPrintable(QString::number(order.indexOf(100))));
+}
+
+void PixelsTest::whatMayBeShownIsBegunWhenWhatIsShownIsMade()
+{
+    Pixels pixels;
+    QStringList order;
+    const auto told = [&order](const QString &name) { return [&order, name](const QImage &) { order.append(name); }; };
+    const QList<Picture> large{picture({2000, 2000}), picture({2000, 2000})};
+    for (const Picture &each : large)
+        pixels.load(each, {1900, 1900}, Pixels::Urgency::Shown, this, told(u"shown"_s));
+    pixels.load(picture({10, 10}), {5, 5}, Pixels::Urgency::Ahead, this, told(u"next"_s));
+    pixels.load(picture({10, 10}), {5, 5}, Pixels::Urgency::Ahead, this, told(u"previous"_s));
+    QTRY_COMPARE(order, (QStringList{u"shown"_s, u"shown"_s, u"next"_s, u"previous"_s}));
 }
 
 void PixelsTest::whatNobodyWaitsForIsNotBegun()
