@@ -4,20 +4,17 @@
 //   bench_canvas FOLDER long     on a file of many large pages, whose pictures are put into the folder
 //   bench_canvas FOLDER cards    scrolling the cards of a page with 500 findings: processor time a frame
 #include "difference.h"
+#include "frames.h"
 #include "longfile.h"
-#include "moment.h"
 #include "pagezoom.h"
-#include "remoteimage.h"
 #include "samplefolder.h"
 #include "typeface.h"
 #include "vexalapp.h"
 
 #include <QCursor>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTimer>
 
 #include <algorithm>
 #include <future>
@@ -31,41 +28,13 @@ constexpr int rounds = 20;
 constexpr int settling = 400;     ///< Milliseconds between two: what is decoded ahead gets done.
 constexpr int longSettling = 900; ///< The same for large pages.
 constexpr int farAway = 3;        ///< Pages: nothing of such a page is decoded ahead.
-constexpr int scrolledFrames = 300;
-constexpr int scrolledPoints = 20; ///< A frame.
-
-QList<RemoteImage *> shownPictures(QQuickItem *item)
-{
-    QList<RemoteImage *> pictures;
-    if (!item->isVisible())
-        return pictures;
-    if (auto *picture = qobject_cast<RemoteImage *>(item); picture && !picture->key().isEmpty() && item->height() > 200)
-        pictures.append(picture);
-    for (QQuickItem *child : item->childItems())
-        pictures.append(shownPictures(child));
-    return pictures;
-}
-
-template <typename Fits>
-QQuickItem *find(QQuickItem *item, Fits fits)
-{
-    if (fits(*item))
-        return item;
-    for (QQuickItem *child : item->childItems()) {
-        if (QQuickItem *found = find(child, fits))
-            return found;
-    }
-    return nullptr;
-}
 
 class Canvas
 {
 public:
     explicit Canvas(VexalApp &app)
         : m_app(app)
-        , m_canvas(find(app.window().contentItem(), [](const QQuickItem &item) {
-            return QByteArray(item.metaObject()->className()).startsWith("CompareCanvas");
-        }))
+        , m_canvas(findItem(app.window().contentItem(), "CompareCanvas"))
     {
     }
 
@@ -86,60 +55,27 @@ public:
         store().turnPage(file, store().shownPage(file) + pages);
     }
 
-    /// Milliseconds from a change to the frame in which every picture it asked for is shown.
+    /// Milliseconds from a change to the frame in which every picture that is to be seen is shown.
     template <typename Change>
     double measured(Change change, int pause = settling)
     {
         QList<double> times;
         for (int i = 0; i < rounds; ++i) {
-            wait(pause);
+            goOnFor(pause);
             QElapsedTimer clock;
             clock.start();
             change();
             // Frames that show nothing new would keep the processor from what is waited for.
-            while (!ready())
-                wait(1);
-            frame();
+            while (!m_canvas->property("shown").toBool())
+                goOnFor(1);
+            drawFrame(m_app.window());
             times.append(double(clock.nsecsElapsed()) / 1e6);
         }
         std::sort(times.begin(), times.end());
         return times[times.size() / 2];
     }
 
-    /// Milliseconds of processor time, of all threads, for each of many frames with a change before it.
-    template <typename Change>
-    double spent(Change change)
-    {
-        wait(longSettling);
-        const double before = processorSeconds();
-        for (int i = 0; i < scrolledFrames; ++i) {
-            change();
-            frame();
-        }
-        return (processorSeconds() - before) * 1000 / scrolledFrames;
-    }
-
 private:
-    bool ready() const
-    {
-        const auto pictures = shownPictures(m_canvas);
-        return std::all_of(pictures.cbegin(), pictures.cend(),
-                           [](const RemoteImage *picture) { return picture->hasPicture(); });
-    }
-    void frame()
-    {
-        QEventLoop loop;
-        QObject::connect(&m_app.window(), &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
-        m_app.window().update();
-        loop.exec();
-    }
-    static void wait(int milliseconds)
-    {
-        QEventLoop loop;
-        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-
     VexalApp &m_app;
     QQuickItem *m_canvas;
 };
@@ -202,22 +138,20 @@ void measureLongFile(Canvas &canvas, const QString &folder)
 /// The inspector's column, which stands once the pages do.
 QQuickItem &columnOf(VexalApp &app)
 {
-    const auto isColumn = [](const QQuickItem &item) { return item.objectName() == QLatin1String("column"); };
     QQuickItem *column = nullptr;
-    while (!(column = find(app.window().contentItem(), isColumn)))
+    while (!(column = findItem(app.window().contentItem(), "column")))
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     return *column;
 }
 
-void measureCards(Canvas &canvas, QQuickItem &column)
+void measureCards(QQuickWindow &window, QQuickItem &column)
 {
-    const auto scroll = [&] { column.setProperty("contentY", column.property("contentY").toReal() + scrolledPoints); };
     // Where the pointer rests on them, card after card is entered and left.
     QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
-    tell("frame_floor", canvas.spent([] {}));
-    tell("frame_scrolling_500_cards", canvas.spent(scroll));
+    tell("frame_floor", spentOnFrame(window, [] {}));
+    tell("frame_scrolling_500_cards", spentOnScrolledFrame(window, column));
     QCursor::setPos(column.mapToGlobal(QPointF(column.width() / 2, column.height() / 2)).toPoint());
-    tell("frame_scrolling_under_the_pointer", canvas.spent(scroll));
+    tell("frame_scrolling_under_the_pointer", spentOnScrolledFrame(window, column));
 }
 
 } // namespace
@@ -242,7 +176,7 @@ int main(int argc, char **argv)
 
     Canvas canvas(app);
     if (cards)
-        measureCards(canvas, columnOf(app));
+        measureCards(app.window(), columnOf(app));
     else if (what == "long")
         measureLongFile(canvas, folder);
     else

@@ -1,9 +1,15 @@
-// What living on a server costs: live SAMPLE poll|refresh|parallel.
+// What living on a server costs.
+//   bench_life SAMPLE poll           one round of the loop while nothing changes
+//   bench_life FILES refresh CHANGED a board of so many files of which some change
+//   bench_life 20 parallel           so many requests at once
+//   bench_life FILES serve           answers with a board of so many files until its input ends
+//   bench_life PORT list START       from the start until such a board's list is on the screen
+//   bench_life PORT scroll           scrolls that list
 #include "api.h"
 #include "boards.h"
 #include "encode.h"
+#include "frames.h"
 #include "liveclient.h"
-#include "moment.h"
 #include "relay.h"
 
 #include <QElapsedTimer>
@@ -13,6 +19,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdio>
 #include <cstring>
 #include <mutex>
 #include <set>
@@ -173,13 +180,13 @@ struct LastByte
     std::atomic<double> used = 0;
 };
 
-/// A board of 2,000 files of which one changes with every refresh.
-int refresh()
+/// A board of so many files of which some change with every refresh.
+int refresh(int files, int changes)
 {
     constexpr int times = 30;
     clockid_t mainThread{};
     pthread_getcpuclockid(pthread_self(), &mainThread);
-    BoardState board = busyBoard({.files = 2000});
+    BoardState board = busyBoard({.files = files});
     board.events.clear();
     LastByte last;
     std::mutex guard;
@@ -226,8 +233,8 @@ int refresh()
         waitUntil([&] { return frameAt != 0; });
         bare.append((frameAt - asked) * 1e3);
         {
-            FileItem &file = board.files[i];
-            file.title = u"Changed %1"_s.arg(i);
+            for (int change = 0; change < changes; ++change)
+                board.files[change * (files / changes) + i].title = u"Changed %1"_s.arg(i);
             board.rev += 1;
             const std::lock_guard lock(guard);
             body = encode(board).toStdString();
@@ -244,10 +251,9 @@ int refresh()
     return 0;
 }
 
-/// Twenty requests that each take the server 20 ms, at once and one after the other.
-int parallel()
+/// Requests that each take the server 20 ms, at once and one after the other.
+int parallel(int many)
 {
-    constexpr int many = 20;
     std::mutex guard;
     std::set<int> connections;
     Server server;
@@ -281,16 +287,85 @@ int parallel()
     return 0;
 }
 
+/// Answers with the same board until somebody closes the input.
+int serve(int files)
+{
+    BoardState board = busyBoard({.files = files});
+    board.events.clear();
+    const std::string body = encode(board).toStdString();
+    Server server;
+    server.http.Get("/api/state", [&body](const httplib::Request &, httplib::Response &response) {
+        response.set_content(body, "application/json");
+    });
+    server.start();
+    tell("port", server.port);
+    std::fflush(stdout);
+    while (std::getchar() != EOF) {
+    }
+    return 0;
+}
+
+QUrl onPort(const QString &port)
+{
+    return QUrl(u"http://127.0.0.1:"_s + port);
+}
+
+/// From the start of the process, which another one noted, until a large board's list is on the screen.
+int list(const QString &port, const QByteArray &start)
+{
+    LiveClient client(onPort(port), u"token"_s, LiveClient::Pace::None);
+    QQuickWindow &window = client.app.window();
+    std::atomic<bool> inFrame = false;
+    std::atomic<double> shown = 0;
+    QObject::connect(
+        &window, &QQuickWindow::afterSynchronizing, &window,
+        [&] { inFrame = findItem(window.contentItem(), "FilePlace") != nullptr; }, Qt::DirectConnection);
+    QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &window,
+        [&] {
+            if (inFrame && shown == 0)
+                shown = millisecondsSince(start);
+        },
+        Qt::DirectConnection);
+    client.app.store().resume();
+    client.app.show();
+    waitUntil([&shown] { return shown != 0; });
+    tell("list", shown);
+    goOnFor(2000);
+    tell("list_memory", proportionalMegabytes());
+    return 0;
+}
+
+int scroll(const QString &port)
+{
+    LiveClient client(onPort(port), u"token"_s, LiveClient::Pace::None);
+    client.app.store().resume();
+    client.app.show();
+    QQuickWindow &window = client.app.window();
+    waitUntil([&window] { return findItem(window.contentItem(), "FilePlace") != nullptr; });
+    tell("list_floor", spentOnFrame(window, [] {}));
+    tell("list_scrolling", spentOnScrolledFrame(window, *findItem(window.contentItem(), "files")));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc != 3)
+    if (argc < 3)
         return 2;
     prepareProcess();
     QGuiApplication application(argc, argv);
+    const QString about = QString::fromLocal8Bit(argv[1]);
     const QByteArray what = argv[2];
+    const QByteArray more = argc > 3 ? argv[3] : "";
     if (what == "poll")
-        return poll(QString::fromLocal8Bit(argv[1]));
-    return what == "refresh" ? refresh() : parallel();
+        return poll(about);
+    if (what == "refresh")
+        return refresh(about.toInt(), more.toInt());
+    if (what == "parallel")
+        return parallel(about.toInt());
+    if (what == "serve")
+        return serve(about.toInt());
+    return what == "list" ? list(about, more) : scroll(about);
 }

@@ -10,6 +10,7 @@ FocusScope {
 
     ListView {
         id: list
+        objectName: "files"
         anchors.fill: parent
         visible: !root.state.empty
         clip: true
