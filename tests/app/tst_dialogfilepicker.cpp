@@ -12,7 +12,8 @@
 using namespace Qt::StringLiterals;
 using namespace vexal;
 
-/// The dialog for opening a file, as Qt draws it in the window where the desktop has none of its own.
+/// The dialog for opening a file, as Qt draws it in the window where the desktop has none of its own. It opens and
+/// closes at once; no test lets it be drawn, for Qt's software renderer loses the textures of its icons.
 class DialogFilePickerTest : public QObject
 {
     Q_OBJECT
@@ -60,11 +61,12 @@ void DialogFilePickerTest::theDialogSaysWhatItIsForAndWhatItTakes()
 {
     DialogFilePicker picker;
     pick(picker, this);
-    QTRY_COMPARE(dialogs().size(), 1);
+    QCOMPARE(dialogs().size(), 1);
     QCOMPARE(dialogs().first()->property("title").toString(), u"Pick a photo."_s);
     const auto *filter = dialogs().first()->property("selectedNameFilter").value<QObject *>();
     QCOMPARE(filter->property("name").toString(), u"Photos"_s);
     QCOMPARE(filter->property("globs").toStringList(), (QStringList{u"*.jpg"_s, u"*.png"_s}));
+    end(dialogs().first(), "reject");
 }
 
 void DialogFilePickerTest::aChosenFileIsAnsweredByItsPath()
@@ -74,7 +76,7 @@ void DialogFilePickerTest::aChosenFileIsAnsweredByItsPath()
     QVERIFY(QFile(path).open(QIODevice::WriteOnly));
     DialogFilePicker picker;
     pick(picker, this);
-    QTRY_COMPARE(dialogs().size(), 1);
+    QCOMPARE(dialogs().size(), 1);
     QObject *dialog = dialogs().first();
     dialog->setProperty("currentFolder", QUrl::fromLocalFile(folder.path()));
     dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
@@ -88,7 +90,7 @@ void DialogFilePickerTest::aDialogThatIsClosedAnswersNothing()
     DialogFilePicker picker;
     for (int i = 0; i < 2; ++i) {
         pick(picker, this);
-        QTRY_COMPARE(dialogs().size(), 1);
+        QCOMPARE(dialogs().size(), 1);
         end(dialogs().first(), "reject");
         QTRY_COMPARE(dialogs().size(), 0);
     }
@@ -99,10 +101,10 @@ void DialogFilePickerTest::oneDialogIsOpenAtATime()
 {
     DialogFilePicker picker;
     pick(picker, this);
-    QTRY_COMPARE(dialogs().size(), 1);
-    pick(picker, this);
-    QCoreApplication::processEvents();
     QCOMPARE(dialogs().size(), 1);
+    pick(picker, this);
+    QCOMPARE(dialogs().size(), 1);
+    end(dialogs().first(), "reject");
 }
 
 void DialogFilePickerTest::whoHasGoneIsNotAnswered()
@@ -110,7 +112,7 @@ void DialogFilePickerTest::whoHasGoneIsNotAnswered()
     DialogFilePicker picker;
     auto context = std::make_unique<QObject>();
     pick(picker, context.get());
-    QTRY_COMPARE(dialogs().size(), 1);
+    QCOMPARE(dialogs().size(), 1);
     context.reset();
     end(dialogs().first(), "accept");
     QTRY_COMPARE(dialogs().size(), 0);
