@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -26,8 +27,10 @@ SampleRead readSample(const QString &folder)
 {
     if (folder.isEmpty())
         return {};
-    QFile file(QDir(folder).filePath(u"sample.json"_s));
-    if (!file.open(QIODevice::ReadOnly))
+    const QString path = QDir(folder).filePath(u"sample.json"_s);
+    QFile file(path);
+    // A pipe or a device may never end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
     auto decoded = decode<Sample>(file.readAll());
     if (!decoded)

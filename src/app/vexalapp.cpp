@@ -43,6 +43,19 @@ QTimer *singleShot(QObject *context, const std::function<void()> &then)
     return timer;
 }
 
+// Keeps out of a photograph what the person does with mouse and keyboard while it is being taken.
+class Inattention : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->isInputEvent())
+            event->accept(); // or a key would go on and look for its shortcut
+        return event->isInputEvent();
+    }
+};
+
 QSize windowSize(QSizeF asked)
 {
     const auto side = [](qreal points) { return int(std::clamp<qreal>(points, 1, largestSide)); };
@@ -82,6 +95,7 @@ void VexalApp::pose(const LaunchOptions &options)
     Appearance &appearance = Appearance::of(m_engine);
     appearance.setResting(true);
     appearance.setDark(options.dark);
+    QCoreApplication::instance()->installEventFilter(new Inattention(&m_window));
     m_window.setFlag(Qt::BypassWindowManagerHint);
     const QSize size = options.size ? windowSize(*options.size) : standardSize;
     m_window.setMinimumSize(leastSize(size));

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace vexal {
@@ -11,7 +13,7 @@ namespace vexal {
 namespace {
 
 constexpr qsizetype longestName = 255; ///< Bytes, on every file system that desktops use.
-constexpr qsizetype tailSize = 64;
+constexpr qsizetype tailSize = 1024;   ///< Bytes: some programs write a little behind the end.
 
 // Whether a file ends as its format ends: a copy that broke off does not. Formats without a mark at their end pass.
 bool isWhole(const QByteArray &head, const QByteArray &tail)
@@ -54,9 +56,24 @@ QString DiskCache::pathOf(const QString &key)
     const auto name = cacheFileName(key);
     if (m_folder.isEmpty() || !name)
         return {};
-    if (!m_keyOfName.contains(*name))
-        m_keyOfName.insert(*name, key);
-    return m_keyOfName.value(*name) == key ? m_folder + u'/' + *name : QString();
+    const QString path = m_folder + u'/' + *name;
+    Owner &owner = m_ownerOfName[*name];
+    if (owner.key == key)
+        return path;
+    if (owner.wrote)
+        return {};
+    // Nobody knows for which of the two an earlier run left the file.
+    if (!owner.key.isEmpty()) {
+        QFile::remove(path);
+        m_doubted.append(owner.key);
+    }
+    owner.key = key;
+    return path;
+}
+
+QStringList DiskCache::takeDoubted()
+{
+    return std::exchange(m_doubted, {});
 }
 
 std::optional<Picture> DiskCache::read(const QString &key)
@@ -81,6 +98,7 @@ std::optional<Picture> DiskCache::write(const QString &key, const QByteArray &by
     const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
     if (!written || !file.commit())
         return std::nullopt;
+    m_ownerOfName[*cacheFileName(key)].wrote = true;
     return Picture::fromFile(path);
 }
 

@@ -7,8 +7,8 @@
 namespace vexal {
 
 /// The folder in which pictures outlast a run: a file a blob key, named by the key with "/" written as "_". Keys come
-/// from outside: one that would not name a file of this folder is neither read nor written, and of two keys that name
-/// the same file the one that was known first in this run has it.
+/// from outside: one that would not name a file of this folder is neither read nor written. Of two keys that name the
+/// same file the first to write it in this run has it; what an earlier run left there is neither's once both are known.
 class DiskCache
 {
 public:
@@ -23,12 +23,21 @@ public:
     std::optional<Picture> write(const QString &key, const QByteArray &bytes);
     /// Forgets a key's file, which turned out to be no picture.
     void remove(const QString &key);
+    /// The keys whose pictures, read before, may be those of others. Each is told once.
+    QStringList takeDoubted();
 
 private:
+    struct Owner
+    {
+        QString key;
+        bool wrote = false; ///< In this run.
+    };
+
     QString pathOf(const QString &key);
 
     QString m_folder;
-    QHash<QString, QString> m_keyOfName;
+    QHash<QString, Owner> m_ownerOfName;
+    QStringList m_doubted;
 };
 
 /// The name of a key's file, or nothing for a key that names none: "", ".", "..", with a NUL, or longer than a file

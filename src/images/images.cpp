@@ -26,6 +26,8 @@ std::optional<Picture> Images::cached(const QString &key)
     if (const auto found = m_memory.constFind(key); found != m_memory.cend())
         return *found;
     auto picture = m_disk.read(key);
+    for (const QString &doubted : m_disk.takeDoubted())
+        m_memory.remove(doubted);
     if (picture)
         remember(key, *picture);
     return picture;

@@ -193,7 +193,7 @@ void Pixels::tell(const Key &key, const QImage &image, const Key &wholeKey, cons
 void Pixels::finish(const Key &key, const QImage &image, const Key &wholeKey, const QImage &whole)
 {
     const Job job = m_jobs.take(key);
-    if (!(wholeKey == key) && !whole.isNull() && !m_levels.contains(wholeKey))
+    if (!(wholeKey == key) && !whole.isNull())
         keep(wholeKey, whole);
     if (!image.isNull())
         keep(key, image);
@@ -214,6 +214,8 @@ bool Pixels::isBusy() const
 
 void Pixels::keep(const Key &key, const QImage &image)
 {
+    // The same level may have been made for another one's sake meanwhile.
+    m_bytes -= m_levels.take(key).image.sizeInBytes();
     giveUp(m_bytes + image.sizeInBytes() - m_budget);
     m_bytes += image.sizeInBytes();
     m_levels.insert(key, {image, ++m_wanted});

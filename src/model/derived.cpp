@@ -17,6 +17,11 @@ std::optional<double> aspect(const std::optional<QList<double>> &px)
     return std::nullopt;
 }
 
+bool breaksLine(QChar sign)
+{
+    return sign == u'\n' || sign == u'\r' || sign == QChar::LineSeparator || sign == QChar::ParagraphSeparator;
+}
+
 } // namespace
 
 QString shownText(const QString &text)
@@ -32,6 +37,13 @@ QString shownText(const std::optional<QString> &text)
     return text ? shownText(*text) : QString();
 }
 
+QString shownLine(const QString &text)
+{
+    QString line = shownText(text);
+    std::replace_if(line.begin(), line.end(), breaksLine, u' ');
+    return line;
+}
+
 std::optional<qint64> pageCount(const FileItem &file)
 {
     return file.page_count && *file.page_count >= 0 ? file.page_count : std::nullopt;
@@ -45,7 +57,7 @@ QString displayTitle(const FileItem &file)
             parts += *part;
     }
     const QString title = parts.join(u' ');
-    return shownText(title.isEmpty() ? file.filename.value_or(u"Untitled file"_s) : title);
+    return shownLine(title.isEmpty() ? file.filename.value_or(u"Untitled file"_s) : title);
 }
 
 const Ref *ourFile(const FileItem &file, QStringView role)
@@ -58,7 +70,7 @@ const Ref *ourFile(const FileItem &file, QStringView role)
 
 QString supplierName(const FileItem &file)
 {
-    const QString supplier = shownText(file.supplier);
+    const QString supplier = shownLine(file.supplier.value_or(QString()));
     return supplier.isEmpty() ? u"Supplier"_s : supplier;
 }
 
@@ -90,7 +102,7 @@ double aspect(const RefPage &reference, double otherwise)
 QString pageLabel(const Page &page)
 {
     if (page.label && !page.label->isEmpty())
-        return shownText(*page.label);
+        return shownLine(*page.label);
     // Unsigned, so that the largest index has a successor too.
     return page.i < 0 ? QString::number(page.i + 1) : QString::number(quint64(page.i) + 1);
 }

@@ -15,6 +15,9 @@ constexpr qsizetype longestShown = 20'000;
 QString shownText(const QString &text);
 QString shownText(const std::optional<QString> &text);
 
+/// The same for a place that has one line: where the text breaks into lines it has a blank.
+QString shownLine(const QString &text);
+
 /// How many pages a file says that it has; nothing where it says nothing or cannot have as many.
 std::optional<qint64> pageCount(const FileItem &file);
 

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void itLooksAsTheDesktopWantsItLive();
     void whatCannotBeSeenDoesNotMove();
     void aPhotographIsAsLargeAsWasAsked();
+    void aPhotographTakesNoNoticeOfMouseAndKeyboard();
     void aClickOnANotificationOpensItsFile();
     void aNotificationOfAFileThatIsGoneOpensTheWindowAlone();
     void lookingAtTheWindowTakesTheNotificationBack();
@@ -133,6 +134,23 @@ void ShellTest::aPhotographIsAsLargeAsWasAsked()
     m_app->show();
     QVERIFY(QTest::qWaitForWindowExposed(&m_app->window()));
     QCOMPARE(m_app->window().size(), QSize(900, 600));
+}
+
+void ShellTest::aPhotographTakesNoNoticeOfMouseAndKeyboard()
+{
+    const auto isDark = [this] { return m_app->window().grabWindow().pixelColor(2, 2).lightness() < 128; };
+    m_app->store().takeBoard(m_live->board);
+    m_app->pose({.shot = u"unused"_s, .dark = true});
+    m_app->show();
+    QVERIFY(QTest::qWaitForWindowExposed(&m_app->window()));
+    QTRY_VERIFY(isDark());
+    QTRY_VERIFY(!m_app->images().pixels().isBusy());
+    const QImage alone = m_app->window().grabWindow();
+    QTest::keyClick(&m_app->window(), Qt::Key_F10);
+    QTest::keyClick(&m_app->window(), Qt::Key_Tab);
+    for (int y = 0; y < 400; y += 20)
+        QTest::mouseClick(&m_app->window(), Qt::LeftButton, {}, QPoint(140, y));
+    QCOMPARE(m_app->window().grabWindow(), alone);
 }
 
 void ShellTest::aClickOnANotificationOpensItsFile()

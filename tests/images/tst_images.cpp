@@ -92,6 +92,7 @@ private Q_SLOTS:
     void keysThatNameNoFileAreShownButNotStored_data();
     void keysThatNameNoFileAreShownButNotStored();
     void twoKeysOfOneFileNameNeverShowEachOther();
+    void aFileOfAnEarlierRunIsNeithersOnceBothKeysAreKnown();
     void aFileCutShortIsFetchedAgain_data();
     void aFileCutShortIsFetchedAgain();
     void aFolderThatCannotBeWrittenStillShows();
@@ -346,6 +347,19 @@ void ImagesTest::twoKeysOfOneFileNameNeverShowEachOther()
     QCOMPARE(ask(*cache, u"a_b"_s)->size(), QSize(8, 8));
     QCOMPARE(cache->cached(u"a/b"_s)->size(), QSize(4, 4));
     QCOMPARE(images()->cached(u"a/b"_s)->size(), QSize(4, 4));
+}
+
+void ImagesTest::aFileOfAnEarlierRunIsNeithersOnceBothKeysAreKnown()
+{
+    m_server.blobs.insert(u"a/b"_s, pictureBytes({4, 4}));
+    m_server.blobs.insert(u"a_b"_s, pictureBytes({8, 8}));
+    QCOMPARE(ask(*images(), u"a_b"_s)->size(), QSize(8, 8));
+    const auto later = images();
+    QVERIFY(later->cached(u"a/b"_s)); // the other's, but nobody knows of the other yet
+    QCOMPARE(ask(*later, u"a_b"_s)->size(), QSize(8, 8));
+    QCOMPARE(ask(*later, u"a/b"_s)->size(), QSize(4, 4));
+    QCOMPARE(later->cached(u"a_b"_s)->size(), QSize(8, 8));
+    QCOMPARE(images()->cached(u"a_b"_s)->size(), QSize(8, 8));
 }
 
 void ImagesTest::aFileCutShortIsFetchedAgain_data()

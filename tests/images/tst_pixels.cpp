@@ -50,6 +50,7 @@ private Q_SLOTS:
     void nothingHasNoDifference();
     void theDifferenceOfTwoPicturesIsMadeByWorkers();
     void aDifferenceIsTakenAtFullSizeWhateverTheLevel();
+    void aLevelThatIsMadeTwiceIsCountedOnce();
     void stepsAreHalvesThatAreNotSmallerThanWhatIsShown();
     void theLargestHeldLevelStandsIn();
 
@@ -290,6 +291,19 @@ void PixelsTest::theDifferenceOfTwoPicturesIsMadeByWorkers()
     QCOMPARE(difference.pixel(30, 40), qRgb(200, 0, 100));
     QVERIFY(!pixels.held({red, blue}, {60, 80}).isNull());
     QVERIFY(pixels.held(red, {60, 80}).isNull());
+}
+
+void PixelsTest::aLevelThatIsMadeTwiceIsCountedOnce()
+{
+    Pixels pixels;
+    const Source difference(picture({600, 600}), picture({600, 600}));
+    int made = 0;
+    const auto count = [&made](const QImage &) { ++made; };
+    // The small one is made of the large one, which comes by itself as well.
+    pixels.load(difference, {100, 100}, Pixels::Urgency::Shown, this, count);
+    pixels.load(difference, {600, 600}, Pixels::Urgency::Shown, this, count);
+    QTRY_COMPARE(made, 2);
+    QCOMPARE(pixels.bytes(), (600 * 600 + 100 * 100) * 4);
 }
 
 void PixelsTest::aDifferenceIsTakenAtFullSizeWhateverTheLevel()

@@ -39,6 +39,14 @@ private Q_SLOTS:
         QCOMPARE(foxes, u'a' + u"🦊"_s.repeated(longestShown / 2 - 1) + u'…');
     }
 
+    void whereThereIsOneLineATextHasBlanksForItsBreaks()
+    {
+        QCOMPARE(shownLine(u"Ostrel\nPrint\r\u2028and\u2029Sons"_s), u"Ostrel Print  and Sons"_s);
+        QCOMPARE(supplierName({.supplier = u"Ostrel\nPrint"_s}), u"Ostrel Print"_s);
+        QCOMPARE(displayTitle(named(u"Moth\nCarnival"_s, u"Box"_s, {})), u"Moth Carnival Box"_s);
+        QCOMPARE(pageLabel({.i = 0, .label = u"i\nii"_s}), u"i ii"_s);
+    }
+
     void aFileComesFromItsSupplierByName()
     {
         QCOMPARE(supplierName({.supplier = u"Ostrel Print"_s}), u"Ostrel Print"_s);

@@ -9,6 +9,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QRegularExpression>
 #include <QTest>
 #include <QtQuickTest>
 
@@ -25,6 +26,9 @@ public:
         : m_images(QString(), std::move(fetch))
         , m_window(&m_engine, nullptr)
     {
+        // What goes wrong in a screen is said in a warning.
+        QTest::failOnWarning(
+            QRegularExpression(QStringLiteral("TypeError|ReferenceError|Unable to assign|loop detected")));
         giveStore(m_engine, store);
         giveImages(m_engine, m_images);
         m_component = std::make_unique<QQmlComponent>(&m_engine);

@@ -4,7 +4,7 @@ import Vexal.Pieces
 import Vexal.Canvas
 
 /// Over the canvas: which of our files to compare with and how, the tool that pins notes, and the pages of the file. On
-/// a narrow canvas it takes two rows.
+/// a narrow canvas it takes two rows; more where a screen has no room for the window as it should be.
 Item {
     id: root
 
@@ -14,17 +14,22 @@ Item {
     readonly property bool overlaid: Store.mode === Store.Overlay
     readonly property int inset: Theme.canvasSide
     readonly property int gap: 12
-    readonly property bool wraps: choice.width + (blend.visible ? root.gap + blend.width : 0) + root.gap + turning.width + 2 * root.inset > root.width
+    readonly property int viewStart: root.inset + (roles.width > 0 ? roles.width + root.gap : 0)
+    readonly property int choiceEnd: root.viewStart + view.width
+    readonly property bool cramped: root.choiceEnd + root.inset > root.width
+    readonly property bool wraps: root.cramped || root.choiceEnd + (blend.visible ? root.gap + blend.width : 0) + root.gap + turning.width + root.inset > root.width
     readonly property int rowHeight: 44
-    readonly property int secondRow: root.wraps ? root.rowHeight - 8 : 0
+    readonly property int rowStep: 36
+    readonly property int blendRow: root.cramped ? 2 : root.wraps ? 1 : 0
+    readonly property bool apart: root.wraps && blend.visible && blend.width + root.gap + turning.width + 2 * root.inset > root.width
+    readonly property int lastRow: root.blendRow + (root.apart ? 1 : 0)
 
-    implicitHeight: root.rowHeight + root.secondRow
+    implicitHeight: root.rowHeight + root.lastRow * root.rowStep
 
     Row {
-        id: choice
+        id: roles
         x: root.inset
         height: root.rowHeight
-        spacing: root.gap
 
         SegmentedControl {
             anchors.verticalCenter: parent.verticalCenter
@@ -42,19 +47,21 @@ Item {
             size: 12
             color: Theme.secondary
         }
-        SegmentedControl {
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.comparison.count > 0
-            name: "View"
-            titles: root.state.modeLabels
-            current: Store.mode
-            onChosen: index => root.state.chooseMode(index)
-        }
+    }
+    SegmentedControl {
+        id: view
+        x: root.cramped ? root.inset : root.viewStart
+        y: (root.rowHeight - height) / 2 + (root.cramped ? root.rowStep : 0)
+        visible: root.comparison.count > 0
+        name: "View"
+        titles: root.state.modeLabels
+        current: Store.mode
+        onChosen: index => root.state.chooseMode(index)
     }
     Row {
         id: blend
-        x: root.wraps ? root.inset : choice.x + choice.width + root.gap
-        y: root.secondRow
+        x: root.wraps ? root.inset : root.choiceEnd + root.gap
+        y: root.blendRow * root.rowStep
         height: root.rowHeight
         spacing: root.gap
         visible: root.overlaid && root.comparison.count > 0
@@ -78,7 +85,7 @@ Item {
         id: turning
         anchors.right: parent.right
         anchors.rightMargin: 12
-        y: root.secondRow
+        y: root.lastRow * root.rowStep
         height: root.rowHeight
         visible: root.comparison.count > 0
 

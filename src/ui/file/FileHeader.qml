@@ -77,6 +77,7 @@ Item {
                 title: modelData.title
                 icon: modelData.symbol
                 url: modelData.url
+                widest: links.width
                 onOpened: link => root.state.follow(link)
             }
         }

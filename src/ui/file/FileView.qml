@@ -11,6 +11,8 @@ FocusScope {
     id: root
 
     required property FileState state
+    /// What is found and noted on the page. It outlives the view: the cards go a moment after the rest.
+    required property InspectorState page
     /// What lies around the pages stands too: in a new window it follows the first frame, which is theirs.
     property bool complete: false
 
@@ -82,18 +84,12 @@ FocusScope {
             Inspector {
                 width: inspector.width
                 height: inspector.height
-                state: page
+                state: root.page
             }
         }
     }
     CanvasState {
         id: canvas
         store: Store
-    }
-    InspectorState {
-        id: page
-        store: Store
-        time: PassingTime
-        drafts: Drafts
     }
 }

@@ -15,6 +15,8 @@ Pressable {
 
     property real wash: Theme.pillWash
     property real hoverWash: Theme.pillHoverWash
+    /// It gets no wider, in points: a longer title is cut.
+    property real widest: 10000
 
     readonly property tint tint: Theme.tint(root.tone)
     readonly property color ink: root.filled ? Theme.onSolid : root.tint.ink
@@ -74,6 +76,7 @@ Pressable {
             id: label
             objectName: "text"
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, root.widest - 20 - x)
             text: root.title
             size: root.size
             weight: root.weight

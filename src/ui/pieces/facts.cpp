@@ -40,8 +40,8 @@ QString joinedFacts(const QStringList &facts)
 {
     QStringList saying;
     for (const QString &fact : facts) {
-        if (!fact.isEmpty())
-            saying.append(isolated(shownText(fact)));
+        if (const QString plain = shownLine(fact); !plain.isEmpty())
+            saying.append(isolated(plain));
     }
     return saying.join(u" · "_s);
 }

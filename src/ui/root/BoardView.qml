@@ -4,6 +4,7 @@ import Vexal.Pieces
 import Vexal.Root
 import Vexal.Sidebar
 import Vexal.File
+import Vexal.Inspector
 
 /// The board: its files at the leading edge, what is selected of them beside.
 FocusScope {
@@ -12,6 +13,7 @@ FocusScope {
     required property RootState state
     /// It outlives the view: what shows a file goes a moment after the rest.
     required property FileState file
+    required property InspectorState page
 
     Sidebar {
         id: sidebar
@@ -56,6 +58,7 @@ FocusScope {
                 height: detail.height
                 focus: true
                 state: root.file
+                page: root.page
             }
         }
         When {

@@ -3,6 +3,7 @@ import QtQuick
 import Vexal.Pieces
 import Vexal.Root
 import Vexal.File
+import Vexal.Inspector
 
 /// The window's one view: the sign-in screen, or the board as sidebar, rule and detail.
 FocusScope {
@@ -28,6 +29,12 @@ FocusScope {
         id: selected
         store: Store
         time: PassingTime
+    }
+    InspectorState {
+        id: inspected
+        store: Store
+        time: PassingTime
+        drafts: Drafts
     }
     Rectangle {
         anchors.fill: parent
@@ -68,6 +75,7 @@ FocusScope {
             focus: true
             state: board
             file: selected
+            page: inspected
         }
     }
     ToastSlot {

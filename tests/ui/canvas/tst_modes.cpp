@@ -41,7 +41,8 @@ private Q_SLOTS:
     void anotherFileStartsAfresh();
     void theLabelsSayWhatIsSeen();
     void aTurnedPageIsThereInTheVeryFrame();
-    void onANarrowCanvasTheBarTakesTwoRows();
+    void onANarrowCanvasTheBarTakesMoreRows_data();
+    void onANarrowCanvasTheBarTakesMoreRows();
     void theWheelZoomsAtThePointer();
     void theWheelMovesAZoomedPage();
     void theMiddleButtonMovesThePage();
@@ -260,13 +261,23 @@ void ModesTest::aTurnedPageIsThereInTheVeryFrame()
     }
 }
 
-void ModesTest::onANarrowCanvasTheBarTakesTwoRows()
+void ModesTest::onANarrowCanvasTheBarTakesMoreRows_data()
 {
+    QTest::addColumn<int>("width");
+    QTest::addColumn<qreal>("height");
+    QTest::newRow("two in the smallest window") << 560 << 80.0;
+    QTest::newRow("four on a screen that has no room for it") << 382 << 152.0;
+}
+
+void ModesTest::onANarrowCanvasTheBarTakesMoreRows()
+{
+    QFETCH(int, width);
+    QFETCH(qreal, height);
     store().setMode(CompareMode::Overlay);
     QQuickItem *bar = screen().only("CanvasBar");
     QCOMPARE(bar->height(), 44.0);
-    screen().window().resize(560, 744);
-    QTRY_COMPARE(bar->height(), 80.0);
+    screen().window().resize(width, 744);
+    QTRY_COMPARE(bar->height(), height);
     const QRectF whole = bar->mapRectToScene(bar->boundingRect());
     QList<QRectF> places;
     for (const char *type : {"SegmentedControl", "Slider", "CheckBox", "ToolButton", "IconButton"}) {

@@ -15,10 +15,16 @@ const QByteArray fileQml = R"(
 import QtQuick
 import Vexal.Pieces
 import Vexal.File
+import Vexal.Inspector
 FileView {
     state: FileState {
         store: Store
         time: PassingTime
+    }
+    page: InspectorState {
+        store: Store
+        time: PassingTime
+        drafts: Drafts
     }
 }
 )";

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void oneFileShowsItsPages();
     void severalFilesShowTogetherEvenWithAFocus();
     void aFileThatLeftTheBoardIsNotShown();
+    void whatIsShownComesAndGoesWithoutAWarning();
     void theToastStands22PointsAboveTheFoot();
     void theToastStandsOnTheSignInScreenToo();
     void aProblemShowsABannerOverTheBoardUntilItHasPassed();
@@ -131,6 +132,26 @@ void RootTest::aFileThatLeftTheBoardIsNotShown()
     m_store->takeBoard(aBoard({aFile(u"b"_s)}, 2));
     QVERIFY(m_screen->all("FileView").isEmpty());
     QVERIFY(m_screen->texts().contains(u"Pick a file."_s));
+}
+
+void RootTest::whatIsShownComesAndGoesWithoutAWarning()
+{
+    Sample sample = sampleOf({aFile(u"a"_s), aFile(u"b"_s)});
+    FileDetail &detail = sample.details[u"a"_s];
+    detail = aDetail(u"a"_s, 2, {aFinding(u"x"_s, 0, u"high"_s), aFinding(u"y"_s, 0, u"low"_s)});
+    detail.findings[0].against = detail.findings[1].against = u"submitted"_s;
+    detail.findings[1].kind = u"pass"_s;
+    detail.file.pages->first().refs = QMap<QString, RefPage>{{u"submitted"_s, {}}};
+    detail.comments = {{.id = u"n"_s, .file_id = u"a"_s, .page = 0, .finding_id = u"x"_s, .text = u"Why?"_s}};
+    m_store->takeSample(sample);
+    show();
+    QTRY_COMPARE(m_screen->all("FindingCard").size(), 1);
+    // Another chosen as well, then none; the screen asks QTest to fail on a warning.
+    for (const QString &toggled : {u"b"_s, u"b"_s, u"a"_s, u"a"_s}) {
+        m_store->selectFile(toggled, true);
+        QTRY_COMPARE(m_screen->all("FileView").size(), m_store->selection() == QSet{u"a"_s} ? 1 : 0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 void RootTest::theToastStands22PointsAboveTheFoot()
