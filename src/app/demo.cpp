@@ -64,7 +64,7 @@ int demo(const QString &email, LocalBoard &board, const QDir &data, const std::o
     }
     app.show();
     if (options)
-        captureWhenSettled(options->shot);
+        app.captureWhenSettled(options->shot);
     return QGuiApplication::exec();
 }
 

@@ -44,7 +44,7 @@ int photograph(QGuiApplication &application, const LaunchOptions &options)
         stage(app.store(), options);
     }
     app.show();
-    captureWhenSettled(options.shot);
+    app.captureWhenSettled(options.shot);
     return QGuiApplication::exec();
 }
 
@@ -92,7 +92,7 @@ int live(QGuiApplication &application, const QStringList &arguments, const std::
     whenKnown(credentials, look, &app.store(), [&] {
         app.show();
         if (options)
-            captureWhenSettled(options->shot);
+            app.captureWhenSettled(options->shot);
         else
             app.open(urlsIn(arguments));
     });

@@ -152,6 +152,17 @@ void VexalApp::show()
         Qt::QueuedConnection);
 }
 
+void VexalApp::captureWhenSettled(const QString &path)
+{
+    QTimer *end = singleShot(&m_window, [path] { QCoreApplication::exit(int(capture(path))); });
+    const auto endOnceDecoded = [this, end] {
+        QObject::connect(&m_images.pixels(), &Pixels::rested, end, [end] { end->start(0); });
+        if (!m_images.pixels().isBusy())
+            end->start(0);
+    };
+    QTimer::singleShot(settlingTime, &m_window, endOnceDecoded);
+}
+
 void VexalApp::open(const QList<QUrl> &urls)
 {
     for (const QUrl &url : urls)
@@ -189,11 +200,6 @@ void prepareProcess()
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     QCoreApplication::setApplicationName(u"Vexal"_s);
     QGuiApplication::setDesktopFileName(deployment::applicationId.toString());
-}
-
-void captureWhenSettled(const QString &path)
-{
-    QTimer::singleShot(settlingTime, qGuiApp, [path] { QCoreApplication::exit(int(capture(path))); });
 }
 
 } // namespace vexal

@@ -52,6 +52,9 @@ public:
     void showSample(Sample sample, const QString &folder);
     /// Opens the window.
     void show();
+    /// Waits until the screens have settled and what they show is decoded, photographs the window to the path and ends
+    /// the program with the capture's status.
+    void captureWhenSettled(const QString &path);
     /// Takes URLs that were opened into the program from outside, and brings the window forward.
     void open(const QList<QUrl> &urls);
     /// Brings the open window before the others, as far as the desktop lets a program do that.
@@ -72,9 +75,5 @@ void whenKnown(CredentialStore &credentials, DesktopLook &look, QObject *context
 
 /// What has to be said to Qt before the application object is made.
 void prepareProcess();
-
-/// Waits until the screens have settled, photographs the window to the path and ends the program with the capture's
-/// status.
-void captureWhenSettled(const QString &path);
 
 } // namespace vexal

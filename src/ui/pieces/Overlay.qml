@@ -18,7 +18,7 @@ FocusScope {
 
     property Item before: null
 
-    parent: root.opener.Window.contentItem
+    parent: root.opener ? root.opener.Window.contentItem : null // they may go in any order
     anchors.fill: parent
     visible: root.opacity > 0
     enabled: false

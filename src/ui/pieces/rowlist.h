@@ -41,6 +41,8 @@ public:
     /// Makes the list show these rows. Of rows with the same key the first counts.
     void setRows(QList<Row> rows)
     {
+        if (sameKeys(rows))
+            return updateChanged(rows);
         dropDuplicates(rows);
         removeGone(rows);
         if (!placeKept(rows)) {
@@ -54,6 +56,13 @@ public:
     }
 
 private:
+    // Most often nothing has come, gone or moved.
+    bool sameKeys(const QList<Row> &rows) const
+    {
+        return std::equal(rows.cbegin(), rows.cend(), m_rows.cbegin(), m_rows.cend(),
+                          [](const Row &one, const Row &other) { return one.key == other.key; });
+    }
+
     static void dropDuplicates(QList<Row> &rows)
     {
         QSet<QString> seen;

@@ -36,10 +36,13 @@ Q_SIGNALS:
     void emptyChanged();
 
 private:
-    QSet<QString> m_selection;
     void update();
+    void makeRows(const QList<FileItem> &files);
 
     Store *m_store = nullptr;
+    QList<FileItem> m_files; ///< Of the board.
+    QList<FileRow> m_made;   ///< One for each of them, not selected.
+    QSet<QString> m_selection;
     RowList<FileRow> m_rows;
     bool m_empty = true;
 };

@@ -37,7 +37,9 @@ bool anythingMatched(const FileItem &file)
                                     [](const Ref &ref) { return ref.matched.value_or(0) >= 1; });
 }
 
-FileRow fileRow(const FileItem &file, const QSet<QString> &selection)
+} // namespace
+
+FileRow fileRow(const FileItem &file)
 {
     return {file.id,
             fileSection(file.status),
@@ -45,10 +47,8 @@ FileRow fileRow(const FileItem &file, const QSet<QString> &selection)
             fileRowDetails(file),
             file.thumb.value_or(QString()),
             fileRowCount(file),
-            selection.contains(file.id)};
+            false};
 }
-
-} // namespace
 
 FileRowCount fileRowCount(const FileItem &file)
 {
@@ -81,17 +81,19 @@ QString fileSection(const QString &status)
     return found == sections.end() ? QString() : QString(found->title);
 }
 
-QList<FileRow> fileRows(const QList<FileItem> &files, const QSet<QString> &selection)
+QList<FileRow> inSections(const QList<FileRow> &rows, const QSet<QString> &selection)
 {
-    QList<FileRow> rows;
-    rows.reserve(files.size());
+    QList<FileRow> listed;
+    listed.reserve(rows.size());
     for (const Section &section : sections) {
-        for (const FileItem &file : files) {
-            if (file.status == section.status)
-                rows.append(fileRow(file, selection));
+        for (const FileRow &row : rows) {
+            if (row.section != section.title)
+                continue;
+            listed.append(row);
+            listed.last().selected = selection.contains(row.key);
         }
     }
-    return rows;
+    return listed;
 }
 
 } // namespace vexal

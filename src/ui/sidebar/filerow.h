@@ -61,7 +61,10 @@ QString fileRowDetails(const FileItem &file);
 /// The section a status belongs to: "To review", "In review", "Reviewed"; empty for a status that no section lists.
 QString fileSection(const QString &status);
 
-/// The files of a board as rows, section by section, within each in board order.
-QList<FileRow> fileRows(const QList<FileItem> &files, const QSet<QString> &selection);
+/// A file as a row that is not selected.
+FileRow fileRow(const FileItem &file);
+
+/// The rows of a board's files as the list has them: section by section, within each in board order.
+QList<FileRow> inSections(const QList<FileRow> &rows, const QSet<QString> &selection);
 
 } // namespace vexal

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void anEmptyBoardSaysWhatToDo();
     void aNewBoardMovesRowsAndBuildsNone();
     void longNamesAreCutNotSpilled();
+    void whateverABoardChangesEachRowIsOfItsFile();
 
 private:
     QStringList keys() const;
@@ -159,6 +160,37 @@ void FileListTest::longNamesAreCutNotSpilled()
         const QRectF place = label->mapRectToItem(row, label->boundingRect());
         QVERIFY2(place.left() >= 0 && place.right() <= row->width(),
                  qPrintable(label->property("text").toString().left(40)));
+    }
+}
+
+void FileListTest::whateverABoardChangesEachRowIsOfItsFile()
+{
+    const auto named = [](const QString &id, const QString &title) {
+        FileItem file = aFile(id);
+        file.title = title;
+        return file;
+    };
+    const FileItem a = named(u"a"_s, u"A"_s);
+    const FileItem b = named(u"b"_s, u"B"_s);
+    const FileItem c = named(u"c"_s, u"C"_s);
+    const QList<QList<FileItem>> boards{
+        {a, b, c}, {a, named(u"b"_s, u"Changed"_s), c},        {named(u"n"_s, u"New"_s), a, b, c},
+        {c, b, a}, {c, named(u"a"_s, u"Moved and changed"_s)}, {a},
+        {a, b, c}};
+    FileListState list;
+    list.setStore(m_store.get());
+    qint64 rev = 2;
+    for (const QList<FileItem> &files : boards) {
+        m_store->takeBoard(aBoard(files, rev++));
+        QStringList told;
+        for (int i = 0; i < list.rows()->rowCount(); ++i) {
+            const auto row = list.rows()->index(i, 0).data(RowList<FileRow>::rowRole).value<FileRow>();
+            told.append(row.key + u' ' + row.title);
+        }
+        QStringList wanted;
+        for (const FileItem &file : files)
+            wanted.append(file.id + u' ' + *file.title);
+        QCOMPARE(told, wanted);
     }
 }
 

@@ -4,6 +4,9 @@
 
 #include <QTest>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 using namespace vexal;
 
@@ -33,6 +36,13 @@ FileItem matched(std::optional<qint64> count)
     return file;
 }
 
+QList<FileRow> listed(const QList<FileItem> &files, const QSet<QString> &selection)
+{
+    QList<FileRow> rows;
+    std::transform(files.begin(), files.end(), std::back_inserter(rows), fileRow);
+    return inSections(rows, selection);
+}
+
 } // namespace
 
 class SidebarTest : public QObject
@@ -57,9 +67,9 @@ private Q_SLOTS:
 
 void SidebarTest::filesStandInTheirSectionsInBoardOrder()
 {
-    const QList<FileRow> rows = fileRows({fileOf(u"a"_s, u"reviewed"_s), fileOf(u"b"_s, u"new"_s),
-                                          fileOf(u"c"_s, u"in_review"_s), fileOf(u"d"_s, u"new"_s)},
-                                         {});
+    const QList<FileRow> rows = listed({fileOf(u"a"_s, u"reviewed"_s), fileOf(u"b"_s, u"new"_s),
+                                        fileOf(u"c"_s, u"in_review"_s), fileOf(u"d"_s, u"new"_s)},
+                                       {});
     QStringList told;
     for (const FileRow &row : rows)
         told.append(row.section + u':' + row.key);
@@ -68,12 +78,12 @@ void SidebarTest::filesStandInTheirSectionsInBoardOrder()
 
 void SidebarTest::aFileOfAnotherStatusIsInNoSection()
 {
-    QVERIFY(fileRows({fileOf(u"a"_s, u"archived"_s)}, {}).isEmpty());
+    QVERIFY(listed({fileOf(u"a"_s, u"archived"_s)}, {}).isEmpty());
 }
 
 void SidebarTest::theSelectedFilesAreMarked()
 {
-    const QList<FileRow> rows = fileRows({fileOf(u"a"_s, u"new"_s), fileOf(u"b"_s, u"new"_s)}, {u"b"_s});
+    const QList<FileRow> rows = listed({fileOf(u"a"_s, u"new"_s), fileOf(u"b"_s, u"new"_s)}, {u"b"_s});
     QVERIFY(!rows[0].selected);
     QVERIFY(rows[1].selected);
 }
