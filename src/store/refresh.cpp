@@ -66,6 +66,7 @@ void Store::boardAnswered(const Response &answer, quint64 asked, const Hold &unt
     const auto taken = [this, tag = answer.entityTag(), asked, until](const std::optional<BoardState> &board) {
         if (!board)
             return boardFailed(Failure::other());
+        const Farewell last(m_board);
         Change change(*this);
         boardArrived(*board, tag, asked);
         boardKnown(asked, until);

@@ -27,26 +27,43 @@ int FileListState::chosenRow() const
     return row == rows.cend() ? -1 : int(row - rows.cbegin());
 }
 
-// The row of a file that is as it was is not made again: a board has thousands.
+// A board has thousands of files: the row of one that is as it was is not made again.
 void FileListState::makeRows(const QList<FileItem> &files)
 {
     if (files.isSharedWith(m_files))
         return;
+    if (!renewRows(files))
+        arrangeRows(files);
+    m_files = files;
+}
+
+// False when a file has come, gone or moved: then not all rows are those of the files.
+bool FileListState::renewRows(const QList<FileItem> &files)
+{
+    if (files.size() != m_files.size())
+        return false;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (files[i] == m_files[i])
+            continue;
+        if (files[i].id != m_files[i].id)
+            return false;
+        m_made[i] = fileRow(files[i]);
+    }
+    return true;
+}
+
+void FileListState::arrangeRows(const QList<FileItem> &files)
+{
     QHash<QString, qsizetype> places;
-    const auto placeBefore = [this, &places](const QString &id, qsizetype now) {
-        if (now < m_files.size() && m_files[now].id == id)
-            return now;
-        for (qsizetype i = places.isEmpty() ? 0 : m_files.size(); i < m_files.size(); ++i)
-            places.insert(m_files[i].id, i);
-        return places.value(id, -1);
-    };
+    places.reserve(m_files.size());
+    for (qsizetype i = 0; i < m_files.size(); ++i)
+        places.insert(m_files[i].id, i);
     QList<FileRow> rows;
     rows.reserve(files.size());
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        const qsizetype before = placeBefore(files[i].id, i);
-        rows.append(before >= 0 && m_files[before] == files[i] ? m_made[before] : fileRow(files[i]));
+    for (const FileItem &file : files) {
+        const qsizetype before = places.value(file.id, -1);
+        rows.append(before >= 0 && m_files[before] == file ? m_made[before] : fileRow(file));
     }
-    m_files = files;
     m_made = std::move(rows);
 }
 

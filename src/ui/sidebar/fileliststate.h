@@ -38,6 +38,8 @@ Q_SIGNALS:
 private:
     void update();
     void makeRows(const QList<FileItem> &files);
+    bool renewRows(const QList<FileItem> &files);
+    void arrangeRows(const QList<FileItem> &files);
 
     Store *m_store = nullptr;
     QList<FileItem> m_files; ///< Of the board.
