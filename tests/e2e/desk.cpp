@@ -188,6 +188,7 @@ void Desk::clear()
 
 void Desk::logOpened(const QString &mimeType, const QString &log) const
 {
+    QFile::remove(log);
     write(u"viewer"_s, QString(viewerScript).arg(log));
     QFile::setPermissions(path(u"viewer"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     write(u"data/applications/viewer.desktop"_s, QString(viewerEntry).arg(path(u"viewer"_s), mimeType));

@@ -55,6 +55,12 @@ QStringList VexalProcess::names(const QString &role) const
     return names;
 }
 
+std::optional<Accessible> VexalProcess::focus() const
+{
+    const auto program = m_desk.program(id());
+    return program ? program->focus() : std::nullopt;
+}
+
 bool VexalProcess::says(const QString &sentence) const
 {
     const auto program = m_desk.program(id());
