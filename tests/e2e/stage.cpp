@@ -46,9 +46,9 @@ void Stage::startBoardAt(const QString &address)
 
 void Stage::run(const QString &address)
 {
-    m_board = std::make_unique<BoardProcess>(QStringList{u"--data"_s, m_data->path(), u"--seed"_s,
-                                                         QStringLiteral(VEXAL_SAMPLE_FOLDER), u"--listen"_s,
-                                                         u"%1:%2"_s.arg(address).arg(m_port)});
+    const QString sample = qEnvironmentVariable("VEXAL_SAMPLE_FOLDER", QStringLiteral(VEXAL_SAMPLE_FOLDER));
+    m_board = std::make_unique<BoardProcess>(QStringList{u"--data"_s, m_data->path(), u"--seed"_s, sample,
+                                                         u"--listen"_s, u"%1:%2"_s.arg(address).arg(m_port)});
 }
 
 void Stage::keepTokenOf(const QString &email)

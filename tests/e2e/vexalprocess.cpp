@@ -20,7 +20,7 @@ VexalProcess::VexalProcess(const Desk &desk, int port, const QStringList &argume
 VexalProcess::VexalProcess(const Desk &desk, const QStringList &launcher, const QStringList &arguments)
     : m_desk(desk)
 {
-    const QStringList command = launcher + QStringList{QStringLiteral(VEXAL_PROGRAM)} + arguments;
+    const QStringList command = launcher + QStringList{vexalProgram()} + arguments;
     m_process.setProcessEnvironment(desk.environment());
     m_process.start(command.first(), command.sliced(1));
 }
