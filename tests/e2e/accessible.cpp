@@ -177,4 +177,15 @@ QList<Accessible> Accessible::all(const QString &role) const
     return found;
 }
 
+std::optional<Accessible> Accessible::focus() const
+{
+    std::optional<Accessible> innermost;
+    find([&](const Accessible &candidate) {
+        if (candidate.isFocused())
+            innermost = candidate;
+        return false;
+    });
+    return innermost;
+}
+
 } // namespace vexal

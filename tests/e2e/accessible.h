@@ -30,6 +30,9 @@ public:
     /// Where it is on the screen, in pixels.
     QRect place() const;
 
+    /// The very same thing, whatever it is called now.
+    bool operator==(const Accessible &other) const { return m_program == other.m_program && m_path == other.m_path; }
+
     /// Does what it is there for. False when it takes no action.
     bool press() const;
 
@@ -38,6 +41,8 @@ public:
     std::optional<Accessible> find(const QString &role, const QString &name) const;
     /// Every descendant of the role that shows, nearest first.
     QList<Accessible> all(const QString &role) const;
+    /// The innermost of its descendants that has the keyboard.
+    std::optional<Accessible> focus() const;
 
 private:
     bool hasState(uint number) const;

@@ -61,6 +61,12 @@ constexpr auto viewerScript = R"(#!/bin/sh
 echo "$1" >>%1
 )"_L1;
 
+/// It has brought an entry of its own to the desktop.
+bool isInstalled()
+{
+    return qEnvironmentVariableIsSet("VEXAL_PROGRAM");
+}
+
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
@@ -95,6 +101,11 @@ void endProcessesOf(const QString &folder)
 }
 
 } // namespace
+
+QString vexalProgram()
+{
+    return qEnvironmentVariable("VEXAL_PROGRAM", QStringLiteral(VEXAL_PROGRAM));
+}
 
 Desk::Desk()
     : m_environment(QProcessEnvironment::systemEnvironment())
@@ -173,7 +184,8 @@ void Desk::installPrograms() const
     const QString browser = path(u"chromium"_s);
     write(u"chromium"_s, QString(browserScript).arg(path(u"browser"_s)));
     QFile::setPermissions(browser, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    write(u"data/applications/org.vexal.Vexal.desktop"_s, QString(vexalEntry).arg(QStringLiteral(VEXAL_PROGRAM)));
+    if (!isInstalled())
+        write(u"data/applications/org.vexal.Vexal.desktop"_s, QString(vexalEntry).arg(vexalProgram()));
     write(u"data/applications/chromium.desktop"_s, QString(browserEntry).arg(browser));
     write(u"config/mimeapps.list"_s, defaults);
 }
@@ -188,6 +200,7 @@ void Desk::clear()
 
 void Desk::logOpened(const QString &mimeType, const QString &log) const
 {
+    QFile::remove(log);
     write(u"viewer"_s, QString(viewerScript).arg(log));
     QFile::setPermissions(path(u"viewer"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     write(u"data/applications/viewer.desktop"_s, QString(viewerEntry).arg(path(u"viewer"_s), mimeType));

@@ -12,6 +12,9 @@
 
 namespace vexal {
 
+/// The client that the stories are about: an installed one when VEXAL_PROGRAM names it, else that of this build.
+QString vexalProgram();
+
 /// A person's desktop that no one else sees: a home, a display, a session bus with a keyring and an accessibility bus,
 /// a browser, and Vexal as the program for its links. Whatever is started with its environment stays on it. One a
 /// process: its session bus is the process's own, too.

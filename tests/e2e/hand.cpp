@@ -21,10 +21,11 @@ void Hand::pointAt(QPoint place) const
     does({u"mousemove"_s, QString::number(place.x()), QString::number(place.y())});
 }
 
-void Hand::click(QPoint place) const
+void Hand::click(QPoint place, const QString &held) const
 {
     pointAt(place);
-    does({u"click"_s, u"1"_s});
+    const QStringList click{u"click"_s, u"1"_s};
+    does(held.isEmpty() ? click : QStringList{u"keydown"_s, held} + click + QStringList{u"keyup"_s, held});
 }
 
 void Hand::turnWheel(int notches, const QString &held) const

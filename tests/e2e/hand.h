@@ -17,7 +17,8 @@ public:
     {
     }
 
-    void click(QPoint place) const;
+    /// Clicks with the left button, with a key held down if need be.
+    void click(QPoint place, const QString &held = {}) const;
     void pointAt(QPoint place) const;
     /// Turns the wheel away from the person by so many notches, with a key held down.
     void turnWheel(int notches, const QString &held) const;

@@ -46,9 +46,9 @@ void Stage::startBoardAt(const QString &address)
 
 void Stage::run(const QString &address)
 {
-    m_board = std::make_unique<BoardProcess>(QStringList{u"--data"_s, m_data->path(), u"--seed"_s,
-                                                         QStringLiteral(VEXAL_SAMPLE_FOLDER), u"--listen"_s,
-                                                         u"%1:%2"_s.arg(address).arg(m_port)});
+    const QString sample = qEnvironmentVariable("VEXAL_SAMPLE_FOLDER", QStringLiteral(VEXAL_SAMPLE_FOLDER));
+    m_board = std::make_unique<BoardProcess>(QStringList{u"--data"_s, m_data->path(), u"--seed"_s, sample,
+                                                         u"--listen"_s, u"%1:%2"_s.arg(address).arg(m_port)});
 }
 
 void Stage::keepTokenOf(const QString &email)
@@ -66,6 +66,11 @@ QStringList Stage::keptTokens()
     return m_desk.keyring().secrets(service, account);
 }
 
+Visitor Stage::visitor()
+{
+    return Visitor(m_port, keptTokens().value(0));
+}
+
 std::unique_ptr<VexalProcess> Stage::startSignedIn(const QStringList &launcher)
 {
     keepTokenOf(mira);
@@ -74,6 +79,31 @@ std::unique_ptr<VexalProcess> Stage::startSignedIn(const QStringList &launcher)
     if (!QTest::qWaitFor([&] { return showsTheBoard(*vexal); }, patience))
         qWarning("The board never came: %s", vexal->errors().constData());
     return vexal;
+}
+
+bool Stage::signsIn(const VexalProcess &vexal)
+{
+    const auto choose = [this] {
+        const auto browser = m_desk.program(u"chromium"_s);
+        const auto isMira = [](const Accessible &candidate) {
+            return candidate.role() == "push button"_L1 && candidate.name().contains(mira);
+        };
+        const auto person = browser ? browser->find(isMira) : std::nullopt;
+        return person && person->press();
+    };
+    return vexal.press(signInButton) && QTest::qWaitFor(choose, patience) &&
+           QTest::qWaitFor([&] { return showsTheBoard(vexal); }, patience);
+}
+
+bool Stage::signsOut(const VexalProcess &vexal)
+{
+    const auto press = [&] {
+        const auto item = vexal.find(u"menu item"_s, u"Sign out"_s);
+        return item && item->press();
+    };
+    const auto isOut = [&] { return vexal.shows(u"push button"_s, signInButton) && keptTokens().isEmpty(); };
+    return vexal.press(u"Account"_s) && QTest::qWaitFor(press, patience) && QTest::qWaitFor(isOut, patience) &&
+           !showsTheBoard(vexal);
 }
 
 bool showsFile(const VexalProcess &vexal, const QString &title)

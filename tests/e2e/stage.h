@@ -33,10 +33,16 @@ public:
     void keepTokenOf(const QString &email);
     /// The tokens that the keyring holds for the client.
     QStringList keptTokens();
+    /// Somebody who asks the board by the client's own token: it tells everybody of who signs in.
+    Visitor visitor();
 
     /// Starts the client with the person signed in, by a command line of another program's if need be, and waits for
     /// the board to be on the screen.
     std::unique_ptr<VexalProcess> startSignedIn(const QStringList &launcher = {});
+    /// Signs Mira in by the browser, from the sign-in screen to the board. False when it does not come to that.
+    bool signsIn(const VexalProcess &vexal);
+    /// Signs out by the menu: nothing of the board is left on the screen, and nothing of the token in the keyring.
+    bool signsOut(const VexalProcess &vexal);
 
 private:
     void run(const QString &address);
@@ -47,6 +53,7 @@ private:
     int m_port = 0;
 };
 
+inline const QString signInButton = QStringLiteral("Sign in with Google");
 inline const QString mira = QStringLiteral("mira@lanternhouse.example");
 inline const QString teo = QStringLiteral("teo@lanternhouse.example");
 

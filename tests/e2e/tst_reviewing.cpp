@@ -1,4 +1,4 @@
-#include "hand.h"
+#include "reviewer.h"
 #include "stage.h"
 
 #include <QTest>
@@ -20,7 +20,6 @@ const QString noteId = u"n-11"_s;
 const QString noteText = u"Ask for a warmer black on the lid."_s;
 const QString pinnedText = u"Lift this a little."_s;
 const QString button = u"push button"_s;
-constexpr int mostTabs = 150; ///< More than there are stops for the keyboard in the window.
 
 /// A page's place is told in whole pixels, its size cut off: so far into it that is too small to matter.
 bool isWithinHalfAPixel(const Note &note, QPointF way, QSize page)
@@ -53,19 +52,13 @@ private Q_SLOTS:
     void aNoteIsDeletedOnceThatIsConfirmed();
 
 private:
-    using Thing = std::function<std::optional<Accessible>()>;
-
-    Hand hand() const { return Hand(m_stage->desk()); }
+    Reviewer person() const { return {m_stage->desk(), *m_vexal}; }
     std::optional<Accessible> card() const { return m_vexal->find(u"list item"_s, findingTitle); }
     std::optional<Accessible> noteRow() const { return m_vexal->find(u"list item"_s, noteText); }
     std::optional<Accessible> page() const { return m_vexal->find(u"graphic"_s, pageName); }
-    static QRect restingPlace(const Thing &thing);
-    bool clickOn(const Thing &thing) const;
-    bool clickOnButton(const QString &name) const;
     bool clickInMenuOfNote(const QString &item) const;
-    bool tabTo(const QString &name) const;
 
-    FileDetail onBoard() const;
+    FileDetail onBoard() const { return m_stage->visitor().file(file); }
     std::optional<Finding> findingOnBoard() const;
     std::optional<Note> noteOnBoard(const std::function<bool(const Note &)> &fits) const;
     std::optional<Note> noteOnBoard() const;
@@ -92,12 +85,6 @@ void ReviewingTest::cleanup()
 {
     m_vexal.reset();
     m_stage->end();
-}
-
-/// By the client's own token: the board tells everybody of who signs in.
-FileDetail ReviewingTest::onBoard() const
-{
-    return Visitor(m_stage->port(), m_stage->keptTokens().value(0)).file(file);
 }
 
 std::optional<Finding> ReviewingTest::findingOnBoard() const
@@ -128,48 +115,10 @@ std::optional<Note> ReviewingTest::pinned() const
     return noteOnBoard([](const Note &note) { return note.text == pinnedText; });
 }
 
-/// Where it is once it is there and moves no more; nowhere when it never is.
-QRect ReviewingTest::restingPlace(const Thing &thing)
-{
-    QRect place;
-    const auto rests = [&] {
-        const auto there = thing();
-        const QRect before = std::exchange(place, there ? there->place() : QRect());
-        return there && place == before;
-    };
-    return QTest::qWaitFor(rests, Stage::patience) ? place : QRect();
-}
-
-/// Clicks on it with the mouse. False when it is never there.
-bool ReviewingTest::clickOn(const Thing &thing) const
-{
-    const QRect place = restingPlace(thing);
-    if (!place.isNull())
-        hand().click(place.center());
-    return !place.isNull();
-}
-
-bool ReviewingTest::clickOnButton(const QString &name) const
-{
-    return clickOn([&] { return m_vexal->find(button, name); });
-}
-
 bool ReviewingTest::clickInMenuOfNote(const QString &item) const
 {
-    return clickOn([&] { return noteRow() ? noteRow()->find(button, u"Edit or delete"_s) : std::nullopt; }) &&
-           clickOn([&] { return m_vexal->find(u"menu item"_s, item); });
-}
-
-/// Goes there with the Tab key alone. False when that leads there never.
-bool ReviewingTest::tabTo(const QString &name) const
-{
-    for (int i = 0; i < mostTabs; ++i) {
-        hand().press({u"Tab"_s});
-        const auto there = [&] { return m_vexal->find(button, name); };
-        if (there() && there()->isFocused())
-            return true;
-    }
-    return false;
+    const auto menu = [this] { return noteRow() ? noteRow()->find(button, u"Edit or delete"_s) : std::nullopt; };
+    return person().clickOn(menu) && person().clickOn(u"menu item"_s, item);
 }
 
 bool ReviewingTest::isJudged(const QString &button) const
@@ -180,35 +129,35 @@ bool ReviewingTest::isJudged(const QString &button) const
 
 void ReviewingTest::aFindingIsJudgedByMouse()
 {
-    QVERIFY(clickOn([&] { return card()->find(button, u"Real issue"_s); }));
+    QVERIFY(person().clickOn([&] { return card()->find(button, u"Real issue"_s); }));
     WAIT_FOR(isJudged(u"Real issue"_s));
     WAIT_FOR(judgement() == "issue"_L1);
     QCOMPARE(findingOnBoard()->state_by, mira);
-    QVERIFY(clickOn([&] { return card()->find(button, u"Fine"_s); }));
+    QVERIFY(person().clickOn([&] { return card()->find(button, u"Fine"_s); }));
     WAIT_FOR(isJudged(u"Fine"_s) && !isJudged(u"Real issue"_s));
     WAIT_FOR(judgement() == "fine"_L1);
     // What is on is taken back by the same button.
-    QVERIFY(clickOn([&] { return card()->find(button, u"Fine"_s); }));
+    QVERIFY(person().clickOn([&] { return card()->find(button, u"Fine"_s); }));
     WAIT_FOR(judgement() == "open"_L1);
 }
 
 void ReviewingTest::aFindingIsJudgedByKeyboard()
 {
-    QVERIFY(tabTo(u"Real issue"_s));
+    QVERIFY(person().tabTo(button, u"Real issue"_s));
     QVERIFY(card()->find(button, u"Real issue"_s)->isFocused());
-    hand().press({u"space"_s});
+    person().press({u"space"_s});
     WAIT_FOR(judgement() == "issue"_L1);
     WAIT_FOR(isJudged(u"Real issue"_s));
-    hand().press({u"Tab"_s, u"Return"_s});
+    person().press({u"Tab"_s, u"Return"_s});
     WAIT_FOR(judgement() == "fine"_L1);
     WAIT_FOR(isJudged(u"Fine"_s) && !isJudged(u"Real issue"_s));
 }
 
 void ReviewingTest::aJudgementIsUndone()
 {
-    QVERIFY(clickOn([&] { return card()->find(button, u"Real issue"_s); }));
+    QVERIFY(person().clickOn([&] { return card()->find(button, u"Real issue"_s); }));
     WAIT_FOR(judgement() == "issue"_L1);
-    QVERIFY(clickOnButton(u"Undo"_s));
+    QVERIFY(person().clickOnButton(u"Undo"_s));
     WAIT_FOR(judgement() == "open"_L1);
     WAIT_FOR(!isJudged(u"Real issue"_s));
 }
@@ -218,25 +167,25 @@ void ReviewingTest::aJudgementThatIsRefusedComesBack()
     m_stage->board().kill();
     const QString sentence = u"Can't reach the Vexal server right now. Trying again…"_s;
     WAIT_FOR(m_vexal->says(sentence));
-    QVERIFY(clickOn([&] { return card()->find(button, u"Real issue"_s); }));
+    QVERIFY(person().clickOn([&] { return card()->find(button, u"Real issue"_s); }));
     // Over the banner, a toast that says it of this very change.
     WAIT_FOR(m_vexal->names(u"notification"_s).contains(sentence));
     m_stage->startBoard();
     WAIT_FOR(!isJudged(u"Real issue"_s));
     QCOMPARE(judgement(), u"open"_s);
-    QVERIFY(clickOn([&] { return card()->find(button, u"Real issue"_s); }));
+    QVERIFY(person().clickOn([&] { return card()->find(button, u"Real issue"_s); }));
     WAIT_FOR(judgement() == "issue"_L1);
 }
 
 /// Clicks there with a note to pin, writes it and hands it in.
 void ReviewingTest::pinAt(QPoint place)
 {
-    hand().press({u"ctrl+n"_s});
+    person().press({u"ctrl+n"_s});
     WAIT_FOR(m_vexal->shows(button, u"Click the page"_s));
-    hand().click(place);
+    person().click(place);
     WAIT_FOR(m_vexal->shows(u"label"_s, u"Note pinned on page 1"_s));
-    hand().write(pinnedText);
-    hand().press({u"ctrl+Return"_s});
+    person().write(pinnedText);
+    person().press({u"ctrl+Return"_s});
     WAIT_FOR(pinned());
 }
 
@@ -256,13 +205,13 @@ void ReviewingTest::aNoteIsPinnedAtTheSamePlaceOfAZoomedPage()
     const QSize fitted = page()->place().size();
     const auto mark = [this] { return m_vexal->find(button, findingTitle); };
     QVERIFY(mark());
-    hand().pointAt(mark()->place().center());
-    hand().turnWheel(9, u"ctrl"_s);
+    person().pointAt(mark()->place().center());
+    person().turnWheel(9, u"ctrl"_s);
     WAIT_FOR(m_vexal->shows(button, u"Fit"_s));
     // Its card brings the mark to where it can be seen.
-    QVERIFY(clickOn([this] { return card(); }));
+    QVERIFY(person().clickOn([this] { return card(); }));
     WAIT_FOR(mark() && mark()->place().width() > fitted.width() / 5);
-    pinAt(restingPlace(mark).center());
+    pinAt(Reviewer::restingPlace(mark).center());
     QVERIFY(pinned());
     const Box box = *findingOnBoard()->box;
     const QPointF way((box[0] + box[2] / 2) * fitted.width(), (box[1] + box[3] / 2) * fitted.height());
@@ -273,9 +222,9 @@ void ReviewingTest::aNoteIsEdited()
 {
     QVERIFY(clickInMenuOfNote(u"Edit"_s));
     WAIT_FOR(isEditing());
-    hand().press({u"ctrl+a"_s});
-    hand().write(u"Ask for a colder black."_s);
-    hand().press({u"ctrl+Return"_s});
+    person().press({u"ctrl+a"_s});
+    person().write(u"Ask for a colder black."_s);
+    person().press({u"ctrl+Return"_s});
     WAIT_FOR(m_vexal->says(u"Saved."_s));
     QCOMPARE(noteOnBoard()->text, u"Ask for a colder black."_s);
     QVERIFY(noteOnBoard()->edited);
@@ -285,16 +234,16 @@ void ReviewingTest::aNoteIsEdited()
 void ReviewingTest::escapeLeavesANoteAsItWas()
 {
     const auto closeUp = [this] { return m_vexal->shows(u"panel"_s, findingTitle); };
-    QVERIFY(clickOn([this] { return card(); }));
+    QVERIFY(person().clickOn([this] { return card(); }));
     WAIT_FOR(closeUp());
     QVERIFY(clickInMenuOfNote(u"Edit"_s));
     WAIT_FOR(isEditing());
-    hand().write(u"Never mind. "_s);
-    hand().press({u"Escape"_s});
+    person().write(u"Never mind. "_s);
+    person().press({u"Escape"_s});
     WAIT_FOR(!isEditing());
     // It was the note's, and the close-up is closed by the next one.
     QVERIFY(closeUp());
-    hand().press({u"Escape"_s});
+    person().press({u"Escape"_s});
     WAIT_FOR(!closeUp());
     QCOMPARE(noteOnBoard()->text, noteText);
     QVERIFY(noteRow());
@@ -302,10 +251,10 @@ void ReviewingTest::escapeLeavesANoteAsItWas()
 
 void ReviewingTest::aNoteIsResolvedAndReopened()
 {
-    QVERIFY(clickOn([&] { return noteRow()->find(button, u"Resolve"_s); }));
+    QVERIFY(person().clickOn([&] { return noteRow()->find(button, u"Resolve"_s); }));
     WAIT_FOR(noteOnBoard()->resolved.value_or(0) != 0);
     WAIT_FOR(noteRow()->find(button, u"Resolved"_s));
-    QVERIFY(clickOn([&] { return noteRow()->find(button, u"Resolved"_s); }));
+    QVERIFY(person().clickOn([&] { return noteRow()->find(button, u"Resolved"_s); }));
     WAIT_FOR(noteOnBoard()->resolved.value_or(0) == 0);
 }
 
@@ -313,12 +262,12 @@ void ReviewingTest::aNoteIsDeletedOnceThatIsConfirmed()
 {
     QVERIFY(clickInMenuOfNote(u"Delete"_s));
     WAIT_FOR(m_vexal->shows(u"dialog"_s, u"Delete this note?"_s));
-    QVERIFY(clickOnButton(u"Cancel"_s));
+    QVERIFY(person().clickOnButton(u"Cancel"_s));
     WAIT_FOR(!m_vexal->shows(u"dialog"_s, u"Delete this note?"_s));
     QVERIFY(noteOnBoard());
 
     QVERIFY(clickInMenuOfNote(u"Delete"_s));
-    QVERIFY(clickOnButton(u"Delete"_s));
+    QVERIFY(person().clickOnButton(u"Delete"_s));
     WAIT_FOR(m_vexal->says(u"Note deleted."_s));
     QVERIFY(!noteOnBoard());
     WAIT_FOR(!noteRow());

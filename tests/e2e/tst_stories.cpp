@@ -16,7 +16,6 @@ using namespace vexal;
 namespace {
 
 const QString button = u"push button"_s;
-const QString signInButton = u"Sign in with Google"_s;
 const QString newFile = u"The Winter Tram Advent calendar"_s;
 
 QByteArray contentOf(const QString &path)
@@ -71,45 +70,22 @@ private Q_SLOTS:
     void aBoardKilledInTheMiddleOfASyncGoesOn();
 
 private:
-    bool signsOut(const VexalProcess &vexal);
     int port() const { return m_stage->port(); }
     Desk &desk() const { return m_stage->desk(); }
 
     std::unique_ptr<Stage> m_stage;
 };
 
-/// Signs out by the menu: nothing of the board is left on the screen, and nothing of the token in the keyring.
-bool StoriesTest::signsOut(const VexalProcess &vexal)
-{
-    const auto press = [&] {
-        const auto item = vexal.find(u"menu item"_s, u"Sign out"_s);
-        return item && item->press();
-    };
-    const auto isOut = [&] { return vexal.shows(button, signInButton) && m_stage->keptTokens().isEmpty(); };
-    return vexal.press(u"Account"_s) && QTest::qWaitFor(press, Stage::patience) &&
-           QTest::qWaitFor(isOut, Stage::patience) && !showsTheBoard(vexal);
-}
-
 void StoriesTest::thePersonSignsInThroughTheBrowser()
 {
     VexalProcess vexal(desk(), port());
-    QVERIFY(vexal.press(signInButton));
-    const auto person = [this] {
-        const auto browser = desk().program(u"chromium"_s);
-        const auto isMira = [](const Accessible &candidate) {
-            return candidate.role() == button && candidate.name().contains(mira);
-        };
-        return browser ? browser->find(isMira) : std::nullopt;
-    };
-    WAIT_FOR(person());
-    QVERIFY(person()->press());
-    WAIT_FOR(showsTheBoard(vexal));
+    QVERIFY(m_stage->signsIn(vexal));
     QVERIFY(!vexal.shows(button, signInButton));
     WAIT_FOR(vexal.shows(u"graphic"_s, u"Mira Halden"_s));
 
     const QStringList kept = m_stage->keptTokens();
     QCOMPARE(kept.size(), 1);
-    QCOMPARE(Visitor(port(), kept.first()).board().me.email, mira);
+    QCOMPARE(m_stage->visitor().board().me.email, mira);
 }
 
 void StoriesTest::aRestartGoesStraightToTheBoard()
@@ -171,8 +147,7 @@ void StoriesTest::aBoardThatIsAwayIsSaidSoUntilItIsBack()
 void StoriesTest::aRevokedTokenLeadsToTheSignInScreen()
 {
     const auto vexal = m_stage->startSignedIn();
-    Visitor visitor(port(), m_stage->keptTokens().first());
-    QCOMPARE(visitor.post(u"/api/logout"_s).status, 200);
+    QCOMPARE(m_stage->visitor().post(u"/api/logout"_s).status, 200);
     WAIT_FOR(vexal->says(u"You're signed out. Sign in again."_s));
     WAIT_FOR(vexal->shows(button, signInButton));
     QVERIFY(!showsTheBoard(*vexal));
@@ -203,7 +178,7 @@ void StoriesTest::signingOutLeavesNothing()
 {
     const auto vexal = m_stage->startSignedIn();
     const QString token = m_stage->keptTokens().value(0);
-    QVERIFY(signsOut(*vexal));
+    QVERIFY(m_stage->signsOut(*vexal));
     // The board knows the token no more, either.
     WAIT_FOR(Visitor(port(), token).get(u"/api/state"_s).status == 401);
     QCOMPARE(vexal->errors(), QByteArray());
@@ -215,7 +190,7 @@ void StoriesTest::signingOutOfAKeyringThatWasRestartedLeavesNothing()
     desk().keyring().stop();
     desk().keyring().start();
     QCOMPARE(m_stage->keptTokens().size(), 1);
-    QVERIFY(signsOut(*vexal));
+    QVERIFY(m_stage->signsOut(*vexal));
     QCOMPARE(vexal->errors(), QByteArray());
 }
 

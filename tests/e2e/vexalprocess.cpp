@@ -20,7 +20,7 @@ VexalProcess::VexalProcess(const Desk &desk, int port, const QStringList &argume
 VexalProcess::VexalProcess(const Desk &desk, const QStringList &launcher, const QStringList &arguments)
     : m_desk(desk)
 {
-    const QStringList command = launcher + QStringList{QStringLiteral(VEXAL_PROGRAM)} + arguments;
+    const QStringList command = launcher + QStringList{vexalProgram()} + arguments;
     m_process.setProcessEnvironment(desk.environment());
     m_process.start(command.first(), command.sliced(1));
 }
@@ -53,6 +53,12 @@ QStringList VexalProcess::names(const QString &role) const
             names.append(found.name());
     }
     return names;
+}
+
+std::optional<Accessible> VexalProcess::focus() const
+{
+    const auto program = m_desk.program(id());
+    return program ? program->focus() : std::nullopt;
 }
 
 bool VexalProcess::says(const QString &sentence) const

@@ -29,6 +29,8 @@ public:
     bool shows(const QString &role, const QString &name) const { return find(role, name).has_value(); }
     /// Every name of the role in its window now.
     QStringList names(const QString &role) const;
+    /// What has the keyboard in its window.
+    std::optional<Accessible> focus() const;
     /// A banner or toast that says so, among other things.
     bool says(const QString &sentence) const;
     /// Presses the button, once it is there and can be pressed. False when that never happens.

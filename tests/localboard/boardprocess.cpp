@@ -9,7 +9,8 @@ BoardProcess::BoardProcess(const QStringList &arguments)
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_DATA_HOME"_s, u"/nonexistent"_s); // what a test forgets to name must not be the person's
     m_process.setProcessEnvironment(environment);
-    m_process.start(QStringLiteral(VEXAL_BOARD_PROGRAM), QStringList{u"--listen"_s, u"127.0.0.1:0"_s} + arguments);
+    m_process.start(qEnvironmentVariable("VEXAL_BOARD_PROGRAM", QStringLiteral(VEXAL_BOARD_PROGRAM)),
+                    QStringList{u"--listen"_s, u"127.0.0.1:0"_s} + arguments);
 }
 
 BoardProcess::~BoardProcess()

@@ -4,7 +4,8 @@
 
 namespace vexal {
 
-/// The program vexal-board, as a process of its own that a test may kill.
+/// The program vexal-board, that of this build or the one that VEXAL_BOARD_PROGRAM names, as a process of its own that
+/// a test may kill.
 class BoardProcess
 {
 public:

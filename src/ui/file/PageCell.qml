@@ -23,6 +23,8 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.row.name
+    Accessible.focusable: true
+    Accessible.focused: root.focused
     Accessible.selectable: true
     Accessible.selected: root.current
     Accessible.onPressAction: root.clicked()

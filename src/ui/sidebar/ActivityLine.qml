@@ -19,6 +19,8 @@ Item {
     Accessible.role: root.leads ? Accessible.Button : Accessible.ListItem
     Accessible.name: root.row.sentence
     Accessible.description: root.row.when
+    Accessible.focusable: true
+    Accessible.focused: root.current
     Accessible.onPressAction: root.follow()
 
     function follow() {

@@ -17,6 +17,8 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.row.title
     Accessible.description: root.row.count.help
+    Accessible.focusable: true
+    Accessible.focused: root.current
     Accessible.selectable: true
     Accessible.selected: root.row.selected
     Accessible.onPressAction: root.selected(false)
