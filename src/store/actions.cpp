@@ -44,7 +44,7 @@ void Store::makeReport(const QStringList &fileIds)
         return fileIds.isEmpty() ? &file == current() : fileIds.contains(file.id);
     };
     QJsonArray ids;
-    for (const FileItem &file : m_board->files) {
+    for (const FileItem &file : std::as_const(m_board->files)) {
         if (covers(file))
             ids.append(file.id);
     }
@@ -126,10 +126,12 @@ void Store::endWriting(const QString &what)
 void Store::writeStatus(const QString &fileId, const QString &status)
 {
     Change change(*this);
-    FileItem &file = m_board->files[m_rowOfFile.value(fileId)];
+    const qsizetype row = m_filesIndex.rows.value(fileId);
+    FileItem &file = m_board->files[row];
     change.set(file.status, status, &Store::boardChanged);
     change.set(file.status_by, m_board->me.email, &Store::boardChanged);
     change.set(file.status_at, m_clock.milliseconds(), &Store::boardChanged);
+    m_filesIndex.fingerprints[row] = qHash(file, 0);
     m_etag.reset();
     beginWriting(theBoard);
 }

@@ -27,8 +27,8 @@ QStringList sorted(const QSet<QString> &texts)
 
 const FileItem *Store::findFile(const QString &id) const
 {
-    const auto row = m_rowOfFile.constFind(id);
-    return row == m_rowOfFile.cend() ? nullptr : &m_board->files.at(*row);
+    const auto row = m_filesIndex.rows.constFind(id);
+    return row == m_filesIndex.rows.cend() ? nullptr : &m_board->files.at(*row);
 }
 
 const FileItem *Store::current() const

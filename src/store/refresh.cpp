@@ -62,8 +62,14 @@ void Store::boardAnswered(const Response &answer, quint64 asked, const Hold &unt
 {
     if (answer.unchanged())
         return boardKnown(asked, until);
-    const auto read = [answer] { return documentIn<BoardState>(answer, u"api/state"_s); };
-    const auto taken = [this, tag = answer.entityTag(), asked, until](const std::optional<BoardState> &board) {
+    const auto read = [answer]() -> std::optional<IndexedBoard> {
+        auto board = documentIn<BoardState>(answer, u"api/state"_s);
+        if (!board)
+            return std::nullopt;
+        FilesIndex index = indexOf(board->files);
+        return IndexedBoard{std::move(*board), std::move(index)};
+    };
+    const auto taken = [this, tag = answer.entityTag(), asked, until](const std::optional<IndexedBoard> &board) {
         if (!board)
             return boardFailed(Failure::other());
         const Farewell last(m_board);
@@ -88,8 +94,9 @@ void Store::boardKnown(quint64 asked, const Hold &until)
 
 /// Takes the board with its tag, unless what is held is newer: a board that was overtaken on its way, or one from
 /// before a change that was made here and that it may not know of.
-void Store::boardArrived(const BoardState &board, const std::optional<QString> &tag, quint64 asked)
+void Store::boardArrived(const IndexedBoard &arrived, const std::optional<QString> &tag, quint64 asked)
 {
+    const BoardState &board = arrived.board;
     const bool overtaken = asked < m_boardTaken && m_board && board.rev < m_board->rev;
     if (overtaken || asked < m_boardWritten || m_writing.contains(QString()))
         return;
@@ -97,7 +104,7 @@ void Store::boardArrived(const BoardState &board, const std::optional<QString> &
     m_seenEvent = news.seenEvent;
     if (news.toast)
         tell(news);
-    takeBoard(board);
+    takeBoard(arrived);
     m_etag = tag;
 }
 

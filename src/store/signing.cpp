@@ -115,7 +115,7 @@ void Store::clearSession()
     change.set(m_busy, QSet<QString>(), &Store::busyChanged);
     change.set(m_update, std::nullopt, &Store::updateChanged);
     change.set(m_refreshing, false, &Store::refreshingChanged);
-    m_rowOfFile.clear();
+    m_filesIndex = {};
     m_etag.reset();
     m_fileTags.clear();
     m_detailSet.clear();

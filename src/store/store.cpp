@@ -14,16 +14,6 @@ namespace vexal {
 
 namespace {
 
-/// Where each id stands in `files`; of two with one id, where the first stands.
-QHash<QString, qsizetype> rowsById(const QList<FileItem> &files)
-{
-    QHash<QString, qsizetype> rows;
-    rows.reserve(files.size());
-    for (qsizetype row = files.size() - 1; row >= 0; --row)
-        rows.insert(files.at(row).id, row);
-    return rows;
-}
-
 const FileItem &fileToBeginWith(const QList<FileItem> &files)
 {
     const auto open =
@@ -68,9 +58,15 @@ Store::~Store()
 
 void Store::takeBoard(BoardState board)
 {
+    FilesIndex index = indexOf(board.files);
+    takeBoard(IndexedBoard{std::move(board), std::move(index)});
+}
+
+void Store::takeBoard(const IndexedBoard &board)
+{
     Change change(*this);
-    if (change.set(m_board, std::move(board), &Store::boardChanged))
-        m_rowOfFile = rowsById(m_board->files);
+    if (change.set(m_board, board.board, &Store::boardChanged))
+        m_filesIndex = board.index;
     if (m_selection.isEmpty() && !m_board->files.isEmpty())
         select({fileToBeginWith(m_board->files).id});
 }

@@ -2,6 +2,7 @@
 
 #include "board.h"
 #include "clock.h"
+#include "filesindex.h"
 #include "hold.h"
 #include "toast.h"
 
@@ -193,6 +194,8 @@ public:
 
     /// Takes a board that arrived. With nothing selected, selects the first file that is not reviewed, or the first.
     void takeBoard(BoardState board);
+    /// A number for each file of the board, in its order: files with the same number are the same in every field.
+    const QList<size_t> &fileFingerprints() const { return m_filesIndex.fingerprints; }
     /// Takes what was fetched of a file. The first time, opens it on the page of its first finding of high severity;
     /// a page that was chosen already stays.
     void takeDetail(const QString &fileId, const FileDetail &detail);
@@ -311,9 +314,10 @@ private:
     void offerUndo(const QString &text, std::function<void()> undo);
 
     // What arrives.
+    void takeBoard(const IndexedBoard &board);
     void boardAnswered(const Response &answer, quint64 asked, const Hold &until);
     void boardKnown(quint64 asked, const Hold &until);
-    void boardArrived(const BoardState &board, const std::optional<QString> &tag, quint64 asked);
+    void boardArrived(const IndexedBoard &arrived, const std::optional<QString> &tag, quint64 asked);
     void tell(const News &news);
     void boardFailed(const Failure &failure);
     void fetchDetail(const QString &fileId, QObject *context, const Hold &until);
@@ -340,7 +344,7 @@ private:
     Clock m_clock;
     std::unique_ptr<Surroundings> m_world; ///< Null: there is none.
     Change *m_change = nullptr;            ///< The outermost one under way.
-    QHash<QString, qsizetype> m_rowOfFile; ///< Where each file id stands in the board's files.
+    FilesIndex m_filesIndex;               ///< Of the board's files.
 
     // Published: written through a Change alone.
     bool m_signedIn = false;

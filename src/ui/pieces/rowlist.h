@@ -55,6 +55,15 @@ public:
         updateChanged(rows);
     }
 
+    /// Shows another row of the same key in that place.
+    void setRow(int place, const Row &row)
+    {
+        if (m_rows[place] == row)
+            return;
+        m_rows[place] = row;
+        Q_EMIT this->dataChanged(index(place), index(place), {rowRole, sectionRole});
+    }
+
 private:
     // Most often nothing has come, gone or moved.
     bool sameKeys(const QList<Row> &rows) const

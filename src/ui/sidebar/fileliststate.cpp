@@ -27,60 +27,77 @@ int FileListState::chosenRow() const
     return row == rows.cend() ? -1 : int(row - rows.cbegin());
 }
 
-// A board has thousands of files: the row of one that is as it was is not made again.
-void FileListState::makeRows(const QList<FileItem> &files)
-{
-    if (files.isSharedWith(m_files))
-        return;
-    if (!renewRows(files))
-        arrangeRows(files);
-    m_files = files;
-}
-
-// False when a file has come, gone or moved: then not all rows are those of the files.
-bool FileListState::renewRows(const QList<FileItem> &files)
-{
-    if (files.size() != m_files.size())
-        return false;
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        if (files[i] == m_files[i])
-            continue;
-        if (files[i].id != m_files[i].id)
-            return false;
-        m_made[i] = fileRow(files[i]);
-    }
-    return true;
-}
-
-void FileListState::arrangeRows(const QList<FileItem> &files)
-{
-    QHash<QString, qsizetype> places;
-    places.reserve(m_files.size());
-    for (qsizetype i = 0; i < m_files.size(); ++i)
-        places.insert(m_files[i].id, i);
-    QList<FileRow> rows;
-    rows.reserve(files.size());
-    for (const FileItem &file : files) {
-        const qsizetype before = places.value(file.id, -1);
-        rows.append(before >= 0 && m_files[before] == file ? m_made[before] : fileRow(file));
-    }
-    m_made = std::move(rows);
-}
-
 void FileListState::update()
 {
     const auto &board = m_store->board();
     const QList<FileItem> files = board ? board->files : QList<FileItem>();
-    makeRows(files);
-    m_rows.setRows(inSections(m_made, m_store->selection()));
-    if (m_selection != m_store->selection()) {
-        m_selection = m_store->selection();
+    const QList<size_t> fingerprints = board ? m_store->fileFingerprints() : QList<size_t>();
+    const bool isChosen = m_selection != m_store->selection();
+    m_selection = m_store->selection();
+    if (!renewRows(files, fingerprints))
+        arrangeRows(files, fingerprints);
+    else if (isChosen)
+        listRows();
+    m_fingerprints = fingerprints;
+    if (isChosen)
         Q_EMIT chosen();
-    }
     if (m_empty == files.isEmpty())
         return;
     m_empty = files.isEmpty();
     Q_EMIT emptyChanged();
+}
+
+// A board has thousands of files, of which few change at a time: their rows are made anew where they stand. False when
+// that is not all, for a file has come, gone, moved or changed its section.
+bool FileListState::renewRows(const QList<FileItem> &files, const QList<size_t> &fingerprints)
+{
+    if (fingerprints.size() != m_fingerprints.size())
+        return false;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (fingerprints[i] == m_fingerprints[i])
+            continue;
+        FileRow row = fileRow(files[i]);
+        const int place = m_places[i];
+        if (row.section != m_made[i].section || (place >= 0 && m_rows.rows().value(place).key != row.key))
+            return false;
+        m_made[i] = row;
+        if (place < 0)
+            continue;
+        row.selected = m_selection.contains(row.key);
+        m_rows.setRow(place, row);
+    }
+    return true;
+}
+
+// The row of a file that is as it was, wherever it stands now, is not made again.
+void FileListState::arrangeRows(const QList<FileItem> &files, const QList<size_t> &fingerprints)
+{
+    QHash<size_t, qsizetype> before;
+    before.reserve(m_fingerprints.size());
+    for (qsizetype i = 0; i < m_fingerprints.size(); ++i)
+        before.insert(m_fingerprints[i], i);
+    QList<FileRow> made;
+    made.reserve(files.size());
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const auto known = before.constFind(fingerprints[i]);
+        made.append(known == before.cend() ? fileRow(files[i]) : m_made[*known]);
+    }
+    m_made = std::move(made);
+    listRows();
+}
+
+void FileListState::listRows()
+{
+    const QList<qsizetype> order = listOrder(m_made);
+    m_places = QList<int>(m_made.size(), -1);
+    QList<FileRow> rows;
+    rows.reserve(order.size());
+    for (const qsizetype file : order) {
+        m_places[file] = int(rows.size());
+        rows.append(m_made[file]);
+        rows.last().selected = m_selection.contains(rows.last().key);
+    }
+    m_rows.setRows(std::move(rows));
 }
 
 } // namespace vexal

@@ -37,13 +37,14 @@ Q_SIGNALS:
 
 private:
     void update();
-    void makeRows(const QList<FileItem> &files);
-    bool renewRows(const QList<FileItem> &files);
-    void arrangeRows(const QList<FileItem> &files);
+    bool renewRows(const QList<FileItem> &files, const QList<size_t> &fingerprints);
+    void arrangeRows(const QList<FileItem> &files, const QList<size_t> &fingerprints);
+    void listRows();
 
     Store *m_store = nullptr;
-    QList<FileItem> m_files; ///< Of the board.
-    QList<FileRow> m_made;   ///< One for each of them, not selected.
+    QList<size_t> m_fingerprints; ///< Of the board's files.
+    QList<FileRow> m_made;        ///< One for each of them, not selected.
+    QList<int> m_places;          ///< Where each of these stands in the list; -1 for one that is not listed.
     QSet<QString> m_selection;
     RowList<FileRow> m_rows;
     bool m_empty = true;

@@ -81,19 +81,17 @@ QString fileSection(const QString &status)
     return found == sections.end() ? QString() : QString(found->title);
 }
 
-QList<FileRow> inSections(const QList<FileRow> &rows, const QSet<QString> &selection)
+QList<qsizetype> listOrder(const QList<FileRow> &rows)
 {
-    QList<FileRow> listed;
-    listed.reserve(rows.size());
+    QList<qsizetype> order;
+    order.reserve(rows.size());
     for (const Section &section : sections) {
-        for (const FileRow &row : rows) {
-            if (row.section != section.title)
-                continue;
-            listed.append(row);
-            listed.last().selected = selection.contains(row.key);
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            if (rows[i].section == section.title)
+                order.append(i);
         }
     }
-    return listed;
+    return order;
 }
 
 } // namespace vexal

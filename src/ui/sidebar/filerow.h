@@ -64,7 +64,8 @@ QString fileSection(const QString &status);
 /// A file as a row that is not selected.
 FileRow fileRow(const FileItem &file);
 
-/// The rows of a board's files as the list has them: section by section, within each in board order.
-QList<FileRow> inSections(const QList<FileRow> &rows, const QSet<QString> &selection);
+/// Which of the rows of a board's files the list has, and in which order: section by section, within each in board
+/// order.
+QList<qsizetype> listOrder(const QList<FileRow> &rows);
 
 } // namespace vexal

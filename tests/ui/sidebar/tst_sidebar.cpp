@@ -36,11 +36,14 @@ FileItem matched(std::optional<qint64> count)
     return file;
 }
 
-QList<FileRow> listed(const QList<FileItem> &files, const QSet<QString> &selection)
+QList<FileRow> listed(const QList<FileItem> &files)
 {
     QList<FileRow> rows;
     std::transform(files.begin(), files.end(), std::back_inserter(rows), fileRow);
-    return inSections(rows, selection);
+    QList<FileRow> list;
+    for (const qsizetype row : listOrder(rows))
+        list.append(rows[row]);
+    return list;
 }
 
 } // namespace
@@ -52,7 +55,6 @@ class SidebarTest : public QObject
 private Q_SLOTS:
     void filesStandInTheirSectionsInBoardOrder();
     void aFileOfAnotherStatusIsInNoSection();
-    void theSelectedFilesAreMarked();
     void realIssuesComeFirstAndAreCounted();
     void whatIsLeftToLookAtTakesNoPlural();
     void aReviewedFileShowsTheCheckMarkEvenWithOpenItems();
@@ -68,8 +70,7 @@ private Q_SLOTS:
 void SidebarTest::filesStandInTheirSectionsInBoardOrder()
 {
     const QList<FileRow> rows = listed({fileOf(u"a"_s, u"reviewed"_s), fileOf(u"b"_s, u"new"_s),
-                                        fileOf(u"c"_s, u"in_review"_s), fileOf(u"d"_s, u"new"_s)},
-                                       {});
+                                        fileOf(u"c"_s, u"in_review"_s), fileOf(u"d"_s, u"new"_s)});
     QStringList told;
     for (const FileRow &row : rows)
         told.append(row.section + u':' + row.key);
@@ -78,14 +79,7 @@ void SidebarTest::filesStandInTheirSectionsInBoardOrder()
 
 void SidebarTest::aFileOfAnotherStatusIsInNoSection()
 {
-    QVERIFY(listed({fileOf(u"a"_s, u"archived"_s)}, {}).isEmpty());
-}
-
-void SidebarTest::theSelectedFilesAreMarked()
-{
-    const QList<FileRow> rows = listed({fileOf(u"a"_s, u"new"_s), fileOf(u"b"_s, u"new"_s)}, {u"b"_s});
-    QVERIFY(!rows[0].selected);
-    QVERIFY(rows[1].selected);
+    QVERIFY(listed({fileOf(u"a"_s, u"archived"_s)}).isEmpty());
 }
 
 void SidebarTest::realIssuesComeFirstAndAreCounted()
