@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <future>
+#include <utility>
 
 using namespace vexal;
 using namespace vexal::bench;
@@ -115,8 +116,8 @@ double differenceOfFiles(const QString &folder)
         QElapsedTimer clock;
         clock.start();
         auto ours = std::async(std::launch::async, decoded, ourPage);
-        const QImage theirs = decoded(supplierPage);
-        if (pageDifference(theirs, ours.get()).isNull())
+        QImage theirs = decoded(supplierPage);
+        if (pageDifference(std::move(theirs), ours.get()).isNull())
             return 0;
         times.append(double(clock.nsecsElapsed()) / 1e6);
     }

@@ -1,15 +1,16 @@
 #include "difference.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexal {
 
 namespace {
 
-QImage atSize(const QImage &page, QSize size)
+QImage atSize(QImage page, QSize size)
 {
-    const QImage plain = page.convertToFormat(QImage::Format_RGB32);
-    return plain.size() == size ? plain : plain.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    page.convertTo(QImage::Format_RGB32);
+    return page.size() == size ? page : page.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 // Leaves in each channel of the pixels how far it is from the other's. Written so that the compiler takes many at once.
@@ -24,15 +25,15 @@ void subtract(uchar *line, const uchar *other, int pixels)
 
 } // namespace
 
-QImage pageDifference(const QImage &supplier, const QImage &ours)
+QImage pageDifference(QImage supplier, QImage ours)
 {
     if (supplier.isNull() || ours.isNull())
         return {};
     const qint64 theirArea = qint64(supplier.width()) * supplier.height();
     const qint64 ourArea = qint64(ours.width()) * ours.height();
     const QSize size = theirArea >= ourArea ? supplier.size() : ours.size();
-    QImage difference = atSize(supplier, size);
-    const QImage other = atSize(ours, size);
+    QImage difference = atSize(std::move(supplier), size);
+    const QImage other = atSize(std::move(ours), size);
     for (int y = 0; y < size.height(); ++y)
         subtract(difference.scanLine(y), other.constScanLine(y), size.width());
     return difference;

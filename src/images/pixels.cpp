@@ -129,8 +129,8 @@ void Pixels::load(const Source &source, QSize level, Urgency urgency, QObject *c
         handOver(key, *job);
     if (urgency == Urgency::Ahead && isNew)
         m_later.append(key);
-    if (!isBusy())
-        beginAhead();
+    // What is looked at may be asked for only after it, in the same turn.
+    QMetaObject::invokeMethod(this, &Pixels::beginAhead, Qt::QueuedConnection);
 }
 
 void Pixels::handOver(const Key &key, const Job &job)
@@ -145,6 +145,8 @@ void Pixels::handOver(const Key &key, const Job &job)
 
 void Pixels::beginAhead()
 {
+    if (isBusy())
+        return;
     for (const Key &key : std::exchange(m_later, {})) {
         if (const auto job = m_jobs.constFind(key); job != m_jobs.cend() && job->urgency == Urgency::Ahead)
             handOver(key, *job);
