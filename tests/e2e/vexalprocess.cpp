@@ -31,6 +31,10 @@ VexalProcess::~VexalProcess()
     if (!m_process.waitForFinished(patience))
         m_process.kill();
     m_process.waitForFinished();
+    // What goes wrong in a screen is said there.
+    const QByteArray said = errors();
+    if (said.contains("TypeError") || said.contains("ReferenceError"))
+        QTest::qFail(said.constData(), __FILE__, __LINE__);
 }
 
 int VexalProcess::exitStatus()

@@ -7,13 +7,15 @@ import Vexal.Sidebar
 Popover {
     id: root
 
+    /// When the window goes it may go first.
     required property ActivityState state
+    readonly property bool empty: root.state?.empty ?? true
     /// How high the panel may become.
     property real mostHeight: 560
 
     // The lines end above the round corners.
     readonly property int foot: 8
-    readonly property real listHeight: root.state.empty ? nothing.height : list.contentHeight
+    readonly property real listHeight: root.empty ? nothing.height : list.contentHeight
 
     width: 330
     height: Math.min(root.mostHeight, Math.round(title.height + root.listHeight + root.foot))
@@ -37,7 +39,7 @@ Popover {
     }
     Label {
         id: nothing
-        visible: root.state.empty
+        visible: root.empty
         anchors.top: title.bottom
         x: 16
         height: 17 + 8
@@ -57,7 +59,7 @@ Popover {
         highlightMoveDuration: 0
         currentIndex: -1
         reuseItems: true
-        model: root.state.rows
+        model: root.state?.rows ?? null
 
         Accessible.role: Accessible.List
         Accessible.name: "Activity"
