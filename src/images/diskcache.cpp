@@ -56,7 +56,7 @@ QString DiskCache::pathOf(const QString &key)
     const auto name = cacheFileName(key);
     if (m_folder.isEmpty() || !name)
         return {};
-    const QString path = m_folder + u'/' + *name;
+    QString path = m_folder + u'/' + *name;
     Owner &owner = m_ownerOfName[*name];
     if (owner.key == key)
         return path;
