@@ -197,6 +197,17 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), 1);
     }
 
+    void aStatusChangesTheFingerprintOfItsFileAlone()
+    {
+        const QList<size_t> before = m_live->store.fileFingerprints();
+        m_live->store.setStatus(u"f"_s, u"reviewed"_s);
+        const QList<size_t> &after = m_live->store.fileFingerprints();
+        const QList<FileItem> &files = m_live->store.board()->files;
+        QCOMPARE(after.size(), files.size());
+        for (qsizetype i = 0; i < files.size(); ++i)
+            QCOMPARE(after[i] != before[i], files[i].id == "f"_L1);
+    }
+
     void aStatusCanBeTakenBack()
     {
         m_live->store.setStatus(u"f"_s, u"reviewed"_s);
