@@ -36,7 +36,7 @@ bool isWritable(const QJsonValue &value)
 QString reasonIn(const QByteArray &body)
 {
     const QJsonValue error = QJsonDocument::fromJson(body).object().value("error"_L1);
-    return error.toString().isEmpty() ? refusal : error.toString();
+    return error.toString().trimmed().isEmpty() ? refusal : error.toString();
 }
 
 } // namespace
@@ -60,7 +60,8 @@ API::~API()
 QUrl API::base() const
 {
     const auto preferred = parsedUrl(m_preferences.value(preference::serverURL).value_or(QString()));
-    return preferred.value_or(QUrl(deployment::serverURL.toString()));
+    // People are known by their token alone.
+    return preferred.value_or(QUrl(deployment::serverURL.toString())).adjusted(QUrl::RemoveUserInfo);
 }
 
 void API::send(const Request &request, QObject *context, Done done)

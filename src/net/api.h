@@ -33,8 +33,8 @@ public:
 
     /// Sends the request with the token of this moment. `done` is called once, never from within this call, with a
     /// response of a status below 400 (304 included) or a failure; when `context` goes before, the request is given up
-    /// and `done` is not called. Nothing is ever sent again on its own account; what changes something is sent at most
-    /// once.
+    /// and `done` is not called. What changes something is sent at most once; a fetch whose kept connection had
+    /// gone goes out once more on a new one.
     void send(const Request &request, QObject *context, Done done);
 
 private:

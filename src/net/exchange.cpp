@@ -15,7 +15,7 @@ std::optional<QByteArray> unpacked(const Response &response, qint64 limit)
 {
     const QString coding = response.header("Content-Encoding").value_or(QString()).toLower();
     const bool hasNone = response.unchanged() || response.status == 204;
-    if (coding.isEmpty() || coding == "identity"_L1 || hasNone)
+    if (coding.isEmpty() || coding == "identity"_L1 || hasNone || response.body.isEmpty())
         return response.body;
     return coding == "gzip"_L1 || coding == "x-gzip"_L1 ? inflated(response.body, limit) : std::nullopt;
 }
@@ -54,7 +54,7 @@ void Exchange::take(Transfer::End end, const Response &response)
         m_request = *next;
         return send();
     }
-    auto body = unpacked(response, m_request.limit);
+    auto body = unpacked(response, limitOf(response.status, m_request.limit));
     // A refusal is one, whatever its body is.
     if (!body && response.status >= 400)
         body.emplace();

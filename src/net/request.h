@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include <algorithm>
 #include <optional>
 
 namespace vexal {
@@ -15,8 +16,16 @@ namespace limit {
 inline constexpr qint64 json = 64LL * 1024 * 1024;
 inline constexpr qint64 pdf = 256LL * 1024 * 1024;
 inline constexpr qint64 picture = pdf;
+inline constexpr qint64 head = 256LL * 1024;
+inline constexpr qint64 refusal = 1024LL * 1024; ///< A longer one says nothing.
 
 } // namespace limit
+
+/// How much of a body counts, with that status, where an answer may hold `limit` bytes.
+inline qint64 limitOf(int status, qint64 limit)
+{
+    return status >= 400 ? std::min(limit, limit::refusal) : limit;
+}
 
 /// One request to the board server.
 struct Request

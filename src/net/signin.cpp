@@ -8,6 +8,7 @@
 #include <QUrlQuery>
 #include <QUuid>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,13 @@ QString item(const QUrl &url, const QString &name)
 QString encodedItem(QLatin1StringView name, const QString &value)
 {
     return name + u'=' + QString::fromLatin1(QUrl::toPercentEncoding(value, "@"));
+}
+
+/// It can stand in the head of a request.
+bool isToken(const QString &text)
+{
+    const auto fits = [](QChar c) { return c >= u' ' && c != u'\x7f'; };
+    return !text.isEmpty() && std::all_of(text.cbegin(), text.cend(), fits);
 }
 
 bool saysSignedIn(const QUrl &url)
@@ -136,6 +144,10 @@ void SignIn::keep(const Response &response)
     const auto answer = decode<SignInAnswer>(response.body);
     if (!answer) {
         qCWarning(log, "The answer to a sign-in is no such answer: %ls", qUtf16Printable(answer.error.text()));
+        return end(Failure::other());
+    }
+    if (!isToken(answer->token)) {
+        qCWarning(log, "The answer to a sign-in has a token that no request can carry");
         return end(Failure::other());
     }
     m_attempt->stored = true;

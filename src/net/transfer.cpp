@@ -30,8 +30,7 @@ struct Transfer::Calls
 {
     static size_t headLine(char *line, size_t, size_t size, void *transfer)
     {
-        static_cast<Transfer *>(transfer)->takeHeadLine(QByteArray(line, qsizetype(size)).trimmed());
-        return size;
+        return static_cast<Transfer *>(transfer)->takeHeadLine(QByteArray(line, qsizetype(size))) ? size : 0;
     }
 
     static size_t body(char *bytes, size_t, size_t size, void *transfer)
@@ -43,8 +42,12 @@ struct Transfer::Calls
     {
         auto *self = static_cast<Transfer *>(transfer);
         self->m_idle.start();
-        self->m_goneOut = true;
-        return CURL_PREREQFUNC_OK;
+        // Where a kept connection breaks, libcurl would try one after the other. Once more, and on a new one, is
+        // enough.
+        long opened = 0;
+        curl_easy_getinfo(self->handle(), CURLINFO_NUM_CONNECTS, &opened);
+        self->m_anew = std::exchange(self->m_goneOut, true) && opened == 0;
+        return self->m_anew ? CURL_PREREQFUNC_ABORT : CURL_PREREQFUNC_OK;
     }
 
     static int progress(void *transfer, curl_off_t, curl_off_t, curl_off_t, curl_off_t sent)
@@ -99,7 +102,8 @@ void Transfer::prepare()
     curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
-    curl_easy_setopt(handle, CURLOPT_URL, m_request.url.toEncoded(QUrl::RemoveFragment).constData());
+    curl_easy_setopt(handle, CURLOPT_URL,
+                     m_request.url.toEncoded(QUrl::RemoveFragment | QUrl::RemoveUserInfo).constData());
     curl_easy_setopt(handle, CURLOPT_PATH_AS_IS, 1L);
     if (const QByteArray authorities = qgetenv("SSL_CERT_FILE"); !authorities.isEmpty())
         curl_easy_setopt(handle, CURLOPT_CAINFO, authorities.constData());
@@ -165,40 +169,60 @@ void Transfer::begin()
     m_head.start();
 }
 
-void Transfer::takeHeadLine(const QByteArray &line)
+bool Transfer::takeHeadLine(const QByteArray &bytes)
 {
     m_idle.start();
+    m_headSize += bytes.size();
+    if (m_headSize > limit::head)
+        return false;
+    const QByteArray line = bytes.trimmed();
     const qsizetype colon = line.indexOf(':');
     if (line.startsWith("HTTP/"))
         m_response = {};
     else if (colon > 0)
         m_response.headers.append({line.first(colon).trimmed(), line.sliced(colon + 1).trimmed()});
     if (!line.isEmpty())
-        return;
+        return true;
     long status = 0;
     curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &status);
     m_response.status = int(status);
     // A head of the hundreds only announces the real one.
     if (status >= 200)
         m_head.stop();
+    return true;
 }
 
 bool Transfer::takeBody(const char *bytes, qsizetype size)
 {
     m_idle.start();
-    if (m_response.body.size() + size > m_request.limit)
+    if (m_response.body.size() + size > limitOf(m_response.status, m_request.limit)) {
+        m_refusedAtLength = m_response.status >= 400;
         return false;
+    }
     m_response.body.append(bytes, size);
     return true;
 }
 
 void Transfer::end(int code)
 {
+    if (std::exchange(m_anew, false))
+        return beginAnew();
+    if (m_refusedAtLength) {
+        m_response.body.clear();
+        return finish(End::Whole);
+    }
     // A connection that ends within the head is no error to libcurl.
     const bool broke = code == CURLE_OK ? m_response.status == 0 : isBreak(code);
     if (code == CURLE_OK && !broke)
         return finish(End::Whole);
     finish(m_goneOut && broke ? End::Dropped : End::Failed);
+}
+
+void Transfer::beginAnew()
+{
+    curl_easy_setopt(m_handle.get(), CURLOPT_FRESH_CONNECT, 1L);
+    m_session.remove(*this);
+    m_session.add(*this);
 }
 
 void Transfer::finish(End end)

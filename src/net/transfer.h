@@ -64,8 +64,9 @@ private:
     void prepare();
     void prepareHead();
     void prepareProxy();
-    void takeHeadLine(const QByteArray &line);
+    bool takeHeadLine(const QByteArray &bytes);
     bool takeBody(const char *bytes, qsizetype size);
+    void beginAnew();
     void finish(End end);
 
     Session &m_session;
@@ -77,7 +78,10 @@ private:
     QTimer m_idle;
     QTimer m_head;
     bool m_goneOut = false;
-    qint64 m_sent = 0; ///< Bytes of the request's body.
+    bool m_anew = false;            ///< The kept connection had gone: a new one is to be made.
+    bool m_refusedAtLength = false; ///< A refusal that says more than anybody reads.
+    qint64 m_headSize = 0;          ///< Bytes of the response's head.
+    qint64 m_sent = 0;              ///< Bytes of the request's body.
 };
 
 } // namespace vexal

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void jsonThatCannotBeWrittenIsNotSent_data();
     void jsonThatCannotBeWrittenIsNotSent();
     void withoutATokenNothingIsAuthorised();
+    void nobodyIsNamedInTheBase();
     void theTokenIsReadAtEveryRequest();
     void aTokenForgottenRightAfterSendingIsStillSent();
     void theUserAgentWithoutAVersion();
@@ -200,6 +201,19 @@ void ApiTest::withoutATokenNothingIsAuthorised()
     QVERIFY(!answer);
     QCOMPARE(answer.failure().kind, Failure::Kind::SignedOut);
     QCOMPARE(answer.failure().sentence, u"You're signed out. Sign in again."_s);
+}
+
+void ApiTest::nobodyIsNamedInTheBase()
+{
+    Client client;
+    client.credentials.forget();
+    QUrl named = client.server.url();
+    named.setUserInfo(u"mira:secret"_s);
+    client.preferences.setValue(vexal::preference::serverURL, named.toString());
+    client.server.on("GET", "/x").answer(200);
+    QVERIFY(client.send({.path = u"x"_s}));
+    QVERIFY(!client.server.requests().first().header("Authorization"));
+    QVERIFY(!client.api.base().toString().contains("mira"_L1));
 }
 
 void ApiTest::theTokenIsReadAtEveryRequest()
@@ -445,6 +459,8 @@ void ApiTest::aRefusalWithoutWords_data()
     QTest::newRow("null") << QByteArray(R"({"error": null})");
     QTest::newRow("a number") << QByteArray(R"({"error": 5})");
     QTest::newRow("an empty string") << QByteArray(R"({"error": ""})");
+    QTest::newRow("blanks") << QByteArray(R"({"error": " \n"})");
+    QTest::newRow("more than anybody reads") << R"({"error": ")" + QByteArray(vexal::limit::refusal, 'x') + R"("})";
     QTest::newRow("broken") << QByteArray(R"({"error": "x")");
 }
 

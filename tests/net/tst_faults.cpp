@@ -79,6 +79,9 @@ private Q_SLOTS:
     void whatChangesSomethingIsSentOnce();
     void anIdleConnectionThatTheServerClosedIsReplaced_data();
     void anIdleConnectionThatTheServerClosedIsReplaced();
+    void aFetchIsTriedOnceMoreAtMost();
+    void aHeadWithoutEndIsGivenUp();
+    void nothingThatIsSaidToBePackedIsNothing();
 
     void aGzippedBodyIsUnpacked();
     void aGzippedRefusalIsUnpacked();
@@ -352,6 +355,44 @@ void FaultsTest::anIdleConnectionThatTheServerClosedIsReplaced()
         QVERIFY(answer);
         QCOMPARE(answer->body, "y");
     }
+}
+
+void FaultsTest::aFetchIsTriedOnceMoreAtMost()
+{
+    Client client;
+    // Several connections are kept.
+    Gate gate;
+    client.server.on("GET", "/first").answer(Answer(200, "x").heldBy(gate));
+    QList<bool> answered;
+    for (int i = 0; i < 5; ++i)
+        client.api.send({.path = u"first"_s}, this, [&answered](const auto &answer) { answered.append(bool(answer)); });
+    QTRY_COMPARE(client.server.requests("GET", "/first").size(), 5);
+    gate.open();
+    QTRY_COMPARE(answered, QList<bool>(5, true));
+    QCOMPARE(client.server.openConnections(), 5);
+
+    client.server.on("GET", "/x").answer(Answer::closed());
+    QCOMPARE(client.send(fetch()).failure(), computerOffline);
+    QCOMPARE(client.server.requests("GET", "/x").size(), 2);
+}
+
+void FaultsTest::aHeadWithoutEndIsGivenUp()
+{
+    Client client;
+    Answer::Headers headers;
+    for (int i = 0; i < 10; ++i)
+        headers.append({"X-" + QByteArray::number(i), QByteArray(60'000, 'x')});
+    client.server.on("GET", "/x").answer(200, "x", headers);
+    QCOMPARE(client.send(fetch()).failure(), outOfReach);
+}
+
+void FaultsTest::nothingThatIsSaidToBePackedIsNothing()
+{
+    Client client;
+    client.server.on("POST", "/x").answer(200, {}, {{"Content-Encoding", "gzip"}});
+    const auto answer = client.send({.path = u"x"_s, .method = "POST"});
+    QVERIFY(answer);
+    QCOMPARE(answer->body, QByteArray());
 }
 
 void FaultsTest::aGzippedBodyIsUnpacked()

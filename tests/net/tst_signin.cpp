@@ -102,6 +102,8 @@ private Q_SLOTS:
     void aCredentialThatTheExchangeDoesNotKnowSignsNobodyOut();
     void anAnswerThatDoesNotDecodeHasNoWords_data();
     void anAnswerThatDoesNotDecodeHasNoWords();
+    void aTokenThatNoRequestCanCarryIsNone_data();
+    void aTokenThatNoRequestCanCarryIsNone();
     void nothingIsKeptOfAFailure();
 
     void anotherStartEndsTheFirstAsCancelled();
@@ -407,6 +409,26 @@ void SignInTest::anAnswerThatDoesNotDecodeHasNoWords()
     QTRY_COMPARE(m_world->results.size(), 1);
     QCOMPARE(m_world->results[0].failure(), Failure::other());
     QCOMPARE(m_world->results[0].failure().sentenceOr(u"own"_s), u"own"_s);
+    QCOMPARE(m_world->client.credentials.token(), QString());
+}
+
+void SignInTest::aTokenThatNoRequestCanCarryIsNone_data()
+{
+    QTest::addColumn<QString>("token");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("of two lines") << u"t\r\nX: y"_s;
+    QTest::newRow("with an end in it") << u"t\0t"_s;
+}
+
+void SignInTest::aTokenThatNoRequestCanCarryIsNone()
+{
+    QFETCH(QString, token);
+    m_world->client.server.on("POST", "/api/login/exchange").answer(200, answerFor(mira, token));
+    m_world->start();
+    m_world->signIn.take(callbackOf(m_world->page()));
+    QTest::ignoreMessage(QtWarningMsg, "The answer to a sign-in has a token that no request can carry");
+    QTRY_COMPARE(m_world->results.size(), 1);
+    QCOMPARE(m_world->results[0].failure(), Failure::other());
     QCOMPARE(m_world->client.credentials.token(), QString());
 }
 
