@@ -62,6 +62,13 @@ QDBusMessage call(const QString &path, const QString &interface, const QString &
     return QDBusConnection::sessionBus().call(call);
 }
 
+bool answers()
+{
+    const QVariantList plain{u"plain"_s, QVariant::fromValue(QDBusVariant(QString()))};
+    return call(root, u"org.freedesktop.Secret.Service"_s, u"OpenSession"_s, plain).type() ==
+           QDBusMessage::ReplyMessage;
+}
+
 QDBusMessage ask(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments)
 {
     const QDBusMessage reply = call(path, interface, method, arguments);
@@ -128,11 +135,19 @@ void KeyringDaemon::start()
     m_daemon.setProcessEnvironment(environment);
     m_daemon.setStandardErrorFile(QProcess::nullDevice());
     m_daemon.setStandardOutputFile(QProcess::nullDevice());
-    m_daemon.start(u"gnome-keyring-daemon"_s, {u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s});
-    m_daemon.write(password.toUtf8());
-    m_daemon.closeWriteChannel();
-    if (!QTest::qWaitFor(isOnBus, 10000))
-        qFatal("The keyring did not start.");
+    // Now and then it dies of the first request after its start; then it is started again.
+    constexpr int attempts = 3;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        m_daemon.start(u"gnome-keyring-daemon"_s, {u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s});
+        m_daemon.write(password.toUtf8());
+        m_daemon.closeWriteChannel();
+        if (!QTest::qWaitFor(isOnBus, 10000))
+            qFatal("The keyring did not start.");
+        if (answers())
+            return;
+        stop();
+    }
+    qFatal("The keyring died of its first request %d times.", attempts);
 }
 
 void KeyringDaemon::stop()
