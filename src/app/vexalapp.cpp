@@ -56,6 +56,18 @@ public:
     }
 };
 
+// Introduces the modules of the screens to the engine, which can be done in this thread only: else the thread that
+// loads the screens would wait for this one until the window is made.
+QQmlEngine &introduced(QQmlEngine &engine)
+{
+    QQmlComponent modules(&engine);
+    modules.setData(
+        "import QtQuick; import Vexal.Root; import Vexal.File; import Vexal.Canvas; import Vexal.Inspector\n"
+        "import Vexal.Sidebar; import Vexal.Pieces; QtObject {}",
+        QUrl());
+    return engine;
+}
+
 QSize windowSize(QSizeF asked)
 {
     const auto side = [](qreal points) { return int(std::clamp<qreal>(points, 1, largestSide)); };
@@ -73,7 +85,7 @@ VexalApp::VexalApp(Parts parts)
     : m_store(parts.surroundings ? std::make_unique<Store>(std::move(parts.clock), *parts.surroundings)
                                  : std::make_unique<Store>(std::move(parts.clock)))
     , m_images(parts.pictureFolder, std::move(parts.fetch))
-    , m_screens(&m_engine, screens, QQmlComponent::Asynchronous)
+    , m_screens(&introduced(m_engine), screens, QQmlComponent::Asynchronous)
     , m_window(&m_engine, nullptr)
 {
     giveStore(m_engine, *m_store);
