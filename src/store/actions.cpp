@@ -4,6 +4,9 @@
 
 #include <QJsonArray>
 
+#include <memory>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 /// What people ask of the worker machine, and their judgement.
@@ -83,7 +86,7 @@ void Store::setStatus(const QString &fileId, const QString &status)
 
 void Store::setFindingState(const QString &findingId, const QString &state)
 {
-    const auto place = placeOf(findingId, &FileDetail::findings, m_details);
+    const auto place = placeOf(findingId, &FileDetail::findings, m_details, fileOnCanvas());
     if (!mayAct() || !place)
         return;
     const QString fileId = place->fileId;
@@ -91,9 +94,14 @@ void Store::setFindingState(const QString &findingId, const QString &state)
     const auto taken = [this, fileId, findingId, state, before](const Response &, const Hold &busy) {
         endWriting(fileId);
         offerUndo(findingText(state), [this, findingId, before] { setFindingState(findingId, before); });
-        refresh(busy); // Brings the detail of the one selected file.
+        // Brings the detail of the one selected file; unless the board does not come.
+        const auto catchUp = [this, fileId, written = m_detailSet.value(fileId)] {
+            if (m_detailSet.value(fileId) == written)
+                fetchDetail(fileId, this, {});
+        };
         if (!current() || current()->id != fileId)
             fetchDetail(fileId, this, busy);
+        refresh(std::make_shared<const std::pair<Hold, Hold>>(busy, holdUntil(inThisSession(catchUp))));
     };
     Change change(*this);
     writeFindingState(*place, state);

@@ -52,6 +52,9 @@ public:
             m_whole.note(changed);
     }
 
+    /// Lets a signal out with the others that is no field's.
+    void tell(void (Store::*told)()) { m_whole.note(told); }
+
 private:
     using Signal = void (Store::*)();
 

@@ -75,7 +75,7 @@ void Store::perform(const QString &key, const std::optional<QString> &successTex
             showToast(*successText);
         refresh(busy);
     };
-    act(key, request, u"That didn't go through. Try again."_s, taken, refused);
+    act(key, request, notDone, taken, refused);
 }
 
 /// Says what went wrong, in the failure's own words or, when it has none, in `ownText`. A refused credential signs out.

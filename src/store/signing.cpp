@@ -87,6 +87,8 @@ void Store::signOut(bool expired)
     m_world->credentials.forget();
     {
         Change change(*this);
+        // Who has only to sign in again goes on with what they write.
+        m_setAside = expired ? (m_posted ? m_posted : draft()) : std::nullopt;
         clearSession();
         if (expired)
             showToast(Failure::signedOut().sentence);
@@ -122,6 +124,7 @@ void Store::clearSession()
     m_writing.clear();
     m_fetching.clear();
     m_held.clear();
+    m_posted.reset();
     m_world->badge.show(0);
     m_world->notifications.withdraw();
 }

@@ -242,6 +242,8 @@ Q_SIGNALS:
     void selectionChanged();
     void pageChanged();
     void focusChanged();
+    /// The finding that has the focus was asked for again.
+    void focusRenewed();
     void againstChanged();
     void modeChanged();
     void problemChanged();
@@ -250,6 +252,8 @@ Q_SIGNALS:
     void pinningChanged();
     void draftPinChanged();
     void draftFindingChanged();
+    /// The person has pinned the note to be written, or begun one on a finding, perhaps not for the first time.
+    void noteBegun();
     void busyChanged();
     void updateChanged();
     void refreshingChanged();
@@ -271,6 +275,7 @@ private:
     /// The note being written, as it was when it was sent.
     struct Draft
     {
+        QString person; ///< The address of whoever is writing.
         QString fileId;
         qint64 page = 0;
         std::optional<QPointF> pin;
@@ -290,6 +295,7 @@ private:
 
     void select(const QSet<QString> &ids);
     bool isOnCanvas(const QString &fileId) const;
+    QString fileOnCanvas() const;
 
     // Requests, and how they end.
     bool isLive() const;
@@ -329,12 +335,14 @@ private:
     void detailFailed(const QString &fileId, const Failure &failure);
 
     // What actions are made of.
+    static constexpr QLatin1StringView notDone{"That didn't go through. Try again."};
     void beginWriting(const QString &what);
     void endWriting(const QString &what);
     void writeStatus(const QString &fileId, const QString &status);
     void writeFindingState(const Place &place, const QString &state);
     void forgetTag(const QString &fileId);
-    void bringBack(const Draft &draft);
+    std::optional<Draft> draft() const;
+    void bringBack();
     std::optional<QString> titleOf(const QString &reportId) const;
     void saveAndOpen(const std::optional<QString> &title, const QByteArray &pdf, const Hold &busy);
     void sendPhoto(const std::optional<QByteArray> &jpeg);
@@ -361,6 +369,8 @@ private:
     bool m_pinning = false;
     std::optional<QPointF> m_draftPin;
     std::optional<QString> m_draftFinding;
+    std::optional<Draft> m_posted;   ///< What the note on its way hangs on.
+    std::optional<Draft> m_setAside; ///< What a note that was not taken was to hang on.
     QSet<QString> m_busy;
     std::optional<VersionInfo> m_update;
     bool m_refreshing = false;

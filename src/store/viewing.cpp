@@ -18,13 +18,17 @@ void Store::turnPage(const QString &fileId, qint64 index)
     Change change(*this);
     const qint64 before = shownPage(fileId);
     change.put(m_page, fileId, index, &Store::pageChanged);
-    if (isOnCanvas(fileId) && shownPage(fileId) != before)
-        clearDraft();
+    if (!isOnCanvas(fileId) || shownPage(fileId) == before)
+        return;
+    clearDraft();
+    bringBack();
 }
 
 void Store::focusFinding(const QString &id)
 {
-    Change(*this).set(m_focus, id, &Store::focusChanged);
+    Change change(*this);
+    if (!change.set(m_focus, id, &Store::focusChanged))
+        change.tell(&Store::focusRenewed);
 }
 
 void Store::clearFocus()
@@ -52,11 +56,14 @@ void Store::placePin(QPointF place)
     Change change(*this);
     change.set(m_draftPin, place, &Store::draftPinChanged);
     change.set(m_pinning, false, &Store::pinningChanged);
+    change.tell(&Store::noteBegun);
 }
 
 void Store::answerFinding(const QString &id)
 {
-    Change(*this).set(m_draftFinding, id, &Store::draftFindingChanged);
+    Change change(*this);
+    change.set(m_draftFinding, id, &Store::draftFindingChanged);
+    change.tell(&Store::noteBegun);
 }
 
 void Store::clearDraft()
@@ -108,12 +115,19 @@ void Store::select(const QSet<QString> &ids)
     m_visit = std::make_unique<QObject>();
     clearFocus();
     clearDraft();
+    bringBack();
 }
 
 /// The file's pages are what the canvas shows.
 bool Store::isOnCanvas(const QString &fileId) const
 {
     return m_selection.size() == 1 && m_selection.contains(fileId);
+}
+
+/// Id of the file whose pages the canvas shows; empty when there is none.
+QString Store::fileOnCanvas() const
+{
+    return m_selection.size() == 1 ? m_selection.values().constFirst() : QString();
 }
 
 } // namespace vexal

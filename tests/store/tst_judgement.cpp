@@ -85,6 +85,16 @@ private Q_SLOTS:
         QCOMPARE(m_live->toast(), u"Marked a real issue."_s);
     }
 
+    void theFileIsFetchedAgainWhateverBecomesOfTheBoard()
+    {
+        m_live->client.server.on("GET", "/api/state").answer(500);
+        m_live->client.server.on("POST", "/api/findings/x").answer(200);
+        m_live->store.setFindingState(u"x"_s, u"fine"_s);
+        m_live->details[u"f"_s].findings[0].state_by = u"the server's word"_s;
+        QTRY_COMPARE(held(), finding(m_live->details[u"f"_s], 0));
+        QCOMPARE(m_live->client.server.requests("GET", "/api/files/f").size(), 1);
+    }
+
     void aStateThatIsNotTakenComesBackFromTheServer()
     {
         m_live->client.server.on("POST", "/api/findings/x").answer(400, QJsonObject{{u"error"_s, u"No."_s}});

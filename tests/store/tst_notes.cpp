@@ -121,16 +121,67 @@ private Q_SLOTS:
             m_live->store.turnPage(u"f"_s, 1);
         waitForEnd();
         QVERIFY(!m_live->store.draftPin());
+        // It waits where it was.
+        m_live->store.selectFile(u"f"_s);
+        m_live->store.turnPage(u"f"_s, 0);
+        QCOMPARE(m_live->store.draftPin(), QPointF(0.5, 0.25));
+        m_live->store.turnPage(u"f"_s, 1);
+        m_live->store.turnPage(u"f"_s, 0);
+        QVERIFY(!m_live->store.draftPin());
     }
 
-    void aDraftDoesNotComeBackToSomeoneSignedOut()
+    void aDraftOfANoteThatWasTakenStaysAway()
     {
-        m_live->client.server.on("POST", "/api/comments").answer(401);
+        m_live->client.server.on("POST", "/api/comments").answer(200);
         m_live->store.placePin({0.5, 0.25});
         m_live->store.addNote(u"Here"_s);
+        m_live->store.turnPage(u"f"_s, 1);
         waitForEnd();
+        m_live->store.turnPage(u"f"_s, 0);
         QVERIFY(!m_live->store.draftPin());
-        QVERIFY(!m_live->store.signedIn());
+    }
+
+    void whoHasToSignInAgainFindsTheDraft_data()
+    {
+        QTest::addColumn<bool>("posting");
+        QTest::newRow("as the note is refused") << true;
+        QTest::newRow("while it is written") << false;
+    }
+
+    void whoHasToSignInAgainFindsTheDraft()
+    {
+        QFETCH(bool, posting);
+        m_live->client.server.on("POST", "/api/comments").answer(401);
+        m_live->store.answerFinding(u"x"_s);
+        m_live->store.placePin({0.5, 0.25});
+        if (posting)
+            m_live->store.addNote(u"Here"_s);
+        else
+            m_live->store.signOut(true);
+        QTRY_VERIFY(!m_live->store.signedIn());
+        QVERIFY(!m_live->store.draftPin());
+        QVERIFY(!m_live->store.draftFinding());
+        signInAgain();
+        QCOMPARE(m_live->store.draftPin(), QPointF(0.5, 0.25));
+        QCOMPARE(m_live->store.draftFinding(), u"x"_s);
+    }
+
+    void aDraftDoesNotComeBackToSomebodyElse()
+    {
+        m_live->store.placePin({0.5, 0.25});
+        m_live->store.signOut(true);
+        m_live->board.me.email = u"another@lanternhouse.example"_s;
+        signInAgain();
+        QVERIFY(!m_live->store.draftPin());
+    }
+
+    void whoSignsOutLeavesNoDraft()
+    {
+        m_live->client.server.on("POST", "/api/logout").answer(200);
+        m_live->store.placePin({0.5, 0.25});
+        m_live->store.signOut(false);
+        signInAgain();
+        QVERIFY(!m_live->store.draftPin());
     }
 
     void aNoteThatCannotBeWrittenIsNotSent()
@@ -179,6 +230,11 @@ private Q_SLOTS:
     }
 
 private:
+    void signInAgain()
+    {
+        m_live->client.credentials.store(u"another"_s, &m_live->store, [] {});
+        QTRY_VERIFY(m_live->store.board());
+    }
     void waitForEnd() { QTRY_VERIFY(m_live->store.busy().isEmpty()); }
 
     std::unique_ptr<LiveStore> m_live;

@@ -20,6 +20,11 @@ FocusScope {
         field.forceActiveFocus();
     }
 
+    /// Another text is written on now: it is gone on with.
+    function goOn() {
+        field.toEnd();
+    }
+
     implicitHeight: column.height + 24
     opacity: root.view.onItsWay ? Theme.onItsWay : 1
 

@@ -27,7 +27,12 @@ FocusScope {
         root.card.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    visible: root.built
+    // Without its card, the place stands for it where there is nothing to be seen.
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.row.title
+    Accessible.ignored: root.built
+    Accessible.onPressAction: root.enter()
+
     implicitHeight: root.above + root.room
 
     When {

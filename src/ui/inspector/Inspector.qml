@@ -68,6 +68,14 @@ FocusScope {
         function onPlaceChanged() {
             view.contentY = 0;
         }
+        function onTurned() {
+            composer.goOn();
+        }
+        // Whoever scrolled away from what they write comes back as they go on.
+        function onWritten() {
+            if (root.keyboard)
+                root.reveal(root.keyboard);
+        }
     }
 
     Flickable {

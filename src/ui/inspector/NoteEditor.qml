@@ -8,6 +8,8 @@ Column {
 
     required property string before
     property bool busy: false
+    /// The person has just asked for it: the keyboard comes here. It stays away when a row is built anew.
+    property bool wanted: false
     readonly property bool writing: field.writing
 
     signal typed(text: string)
@@ -17,7 +19,8 @@ Column {
     spacing: 8
     Component.onCompleted: {
         field.text = root.before;
-        field.forceActiveFocus();
+        if (root.wanted)
+            field.forceActiveFocus();
     }
 
     TextArea {

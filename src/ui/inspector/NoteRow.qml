@@ -18,8 +18,12 @@ Item {
     readonly property bool editing: root.row.editing
     // The keyboard is in the editor; when that goes, it stays with the note.
     property bool writing: false
+    property bool justAsked: false
     onEditingChanged: {
-        if (root.editing || !root.writing)
+        if (root.editing)
+            return;
+        root.justAsked = false;
+        if (!root.writing)
             return;
         root.writing = false;
         more.forceActiveFocus();
@@ -37,6 +41,7 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.row.text
     Accessible.description: root.row.author + ", " + root.row.when
+    Accessible.onPressAction: more.press()
 
     Item {
         id: head
@@ -126,6 +131,7 @@ Item {
                 width: body.width
                 topPadding: 6
                 before: root.draft
+                wanted: root.justAsked
                 busy: root.row.busy
                 onTyped: text => root.typed(text)
                 onWritingChanged: {
@@ -147,10 +153,10 @@ Item {
             destructive: 1
             onDismissed: root.menuOpen = false
             onChosen: index => {
-                if (index === 0)
+                root.justAsked = index === 0;
+                root.confirmDelete = index === 1;
+                if (root.justAsked)
                     root.editRequested();
-                else
-                    root.confirmDelete = true;
             }
         }
     }

@@ -50,8 +50,9 @@ void InspectorState::setStore(Store *store)
         connect(store, signal, this, &InspectorState::tell);
     connect(store, &Store::focusChanged, this, &InspectorState::focusMoved);
     connect(store, &Store::pinningChanged, this, &InspectorState::tellComposer);
-    connect(store, &Store::draftPinChanged, this, &InspectorState::beginNote);
-    connect(store, &Store::draftFindingChanged, this, &InspectorState::beginNote);
+    connect(store, &Store::draftPinChanged, this, &InspectorState::tellComposer);
+    connect(store, &Store::draftFindingChanged, this, &InspectorState::tellComposer);
+    connect(store, &Store::noteBegun, this, &InspectorState::noteBegun);
     Q_EMIT givenChanged();
     tell();
 }
@@ -90,7 +91,18 @@ QAbstractListModel *InspectorState::notesOn(const QString &finding)
 
 void InspectorState::setNoteText(const QString &text)
 {
+    if (text == m_noteText)
+        return;
     m_drafts->setNote(m_place.file, m_place.page, text);
+    Q_EMIT written();
+}
+
+void InspectorState::setEditText(const QString &note, const QString &text)
+{
+    if (text == editText(note))
+        return;
+    m_drafts->setEdit(note, text);
+    Q_EMIT written();
 }
 
 int InspectorState::cardOf(const QString &finding) const
@@ -135,12 +147,15 @@ void InspectorState::tell()
     if (!m_store || !m_time || !m_drafts)
         return;
     const FileDetail *known = detail();
+    const Place before = m_place;
     tellPlace(known);
     tellFindings(known ? *known : FileDetail());
     tellNotes(known ? *known : FileDetail());
     tellComposer();
     if (known)
         announce(*known);
+    if (before.file != m_place.file || before.page != m_place.page)
+        Q_EMIT turned();
 }
 
 void InspectorState::tellPlace(const FileDetail *detail)
@@ -226,12 +241,4 @@ void InspectorState::announce(const FileDetail &detail)
 }
 
 /// A draft that comes back because its note was not taken, which is while that is still under way, is nothing new.
-void InspectorState::beginNote()
-{
-    tellComposer();
-    const bool attached = m_store->draftPin() || m_store->draftFinding();
-    if (attached && !m_store->busy().contains(u"note"_s))
-        Q_EMIT noteBegun();
-}
-
 } // namespace vexal

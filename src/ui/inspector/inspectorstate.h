@@ -72,7 +72,7 @@ public:
     /// Begins to edit a note of the file.
     Q_INVOKABLE void beginEdit(const QString &note);
     Q_INVOKABLE QString editText(const QString &note) const { return m_drafts->edit(note); }
-    Q_INVOKABLE void setEditText(const QString &note, const QString &text) { m_drafts->setEdit(note, text); }
+    Q_INVOKABLE void setEditText(const QString &note, const QString &text);
     Q_INVOKABLE void cancelEdit(const QString &note) { m_drafts->dropEdit(note); }
     Q_INVOKABLE void saveEdit(const QString &note) { m_drafts->saveEdit(note); }
 
@@ -86,6 +86,10 @@ Q_SIGNALS:
     void focusMoved();
     /// The person has pinned the note to be written, or begun one on a finding: the field is wanted.
     void noteBegun();
+    /// Another page is spoken of, and all that is said is of that one.
+    void turned();
+    /// Something was written, here or there.
+    void written();
 
 private:
     struct Place
@@ -106,7 +110,6 @@ private:
     void tellComposer();
     void tellNoteText();
     void announce(const FileDetail &detail);
-    void beginNote();
 
     Store *m_store = nullptr;
     PassingTime *m_time = nullptr;

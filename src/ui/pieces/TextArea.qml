@@ -84,6 +84,11 @@ FocusScope {
             Accessible.focusable: true
 
             onCursorRectangleChanged: view.show(edit.cursorRectangle)
+            // A text that is brought here is gone on with.
+            onTextChanged: {
+                if (!edit.activeFocus)
+                    root.toEnd();
+            }
 
             Keys.onShortcutOverride: event => event.accepted = root.hands(event) || root.escapes(event)
             Keys.onPressed: event => {
@@ -126,6 +131,10 @@ FocusScope {
         opacity: Theme.fieldFocus
     }
 
+    /// Puts the caret behind the text.
+    function toEnd() {
+        edit.cursorPosition = edit.length;
+    }
     function hands(event: KeyEvent): bool {
         const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
         return enter && (event.modifiers & Qt.ControlModifier) !== 0;

@@ -1,5 +1,6 @@
 #include "inspectorscreen.h"
 
+#include <QAccessible>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -275,6 +276,14 @@ void JudgingTest::ofManyCardsOnlyThoseNearTheColumnAreBuilt()
     m_on->named(u"column"_s)->setProperty("contentY", 0);
     QTRY_VERIFY(m_on->card(u"Title of f0"_s));
     QCOMPARE(m_on->focus(), m_on->card(u"Title of f170"_s));
+    // Those who listen to the window find every one of them, and can go there.
+    const auto places = m_on->screen->all("FindingPlace");
+    QCOMPARE(places.size(), 300);
+    QAccessibleInterface *last = QAccessible::queryAccessibleInterface(places.last());
+    QCOMPARE(last->role(), QAccessible::ListItem);
+    QCOMPARE(last->text(QAccessible::Name), u"Title of f299"_s);
+    last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(m_on->focus(), m_on->card(u"Title of f299"_s));
 }
 
 void JudgingTest::arrowsGoFromCardToCard()

@@ -156,16 +156,18 @@ TestCase {
         verify(!findChild(row, "text").visible);
         const edit = findChild(row, "edit");
         compare(edit.text, "Five lanterns, please.");
-        verify(edit.activeFocus);
+        verify(!edit.activeFocus); // nobody has just asked for it
+        edit.forceActiveFocus();
         watch(row, "typed");
         keyClick("x");
-        compare(spy.signalArguments[0][0], "xFive lanterns, please.");
+        compare(spy.signalArguments[0][0], "Five lanterns, please.x");
     }
 
     function test_theEditorSavesAndCancels() {
         const row = createTemporaryObject(edited, test);
         watch(row, "editSaved");
         mouseClick(findChild(row, "save"));
+        findChild(row, "edit").forceActiveFocus();
         keyClick(Qt.Key_Return, Qt.ControlModifier);
         compare(spy.count, 2);
         findChild(row, "edit").text = " \n ";

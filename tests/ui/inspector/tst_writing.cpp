@@ -67,6 +67,9 @@ private Q_SLOTS:
     void escapeInTheFieldDropsThePlaceFirst();
     void anEditSurvivesANewBoardWithItsCaret();
     void anEditOutlivesItsRow();
+    void anEditThatIsBuiltAnewLeavesTheKeyboardWhereItIs();
+    void aTextIsGoneOnWithAtItsEnd();
+    void asSoonAsSomethingIsWrittenItIsInSight();
     void anEditGoesWithItsNote();
     void aResolvedNoteStaysInEdit();
     void whatWasWrittenGoesWithWhoSignsOut();
@@ -313,6 +316,10 @@ void WritingTest::aNoteOnAFindingBeginsAtItsCard()
     QCOMPARE(m_on->context(), u"Note on: Title of a"_s);
     m_on->live.store.placePin({0.5, 0.5});
     QCOMPARE(m_on->context(), u"Note pinned on page 1"_s);
+    // Whoever asks again is led to the field again.
+    m_on->card(u"Title of a"_s)->forceActiveFocus();
+    m_on->screen->click(InspectorScreen::named(m_on->card(u"Title of a"_s), u"note"_s));
+    QCOMPARE(m_on->focus(), m_on->field());
 }
 
 void WritingTest::clearDropsThePlaceAndKeepsTheText()
@@ -510,6 +517,50 @@ void WritingTest::anEditOutlivesItsRow()
     m_on->live.store.turnPage(u"f"_s, 0);
     QTRY_VERIFY(editor());
     QCOMPARE(editor()->property("text"), u"A note more"_s);
+}
+
+void WritingTest::anEditThatIsBuiltAnewLeavesTheKeyboardWhereItIs()
+{
+    show({aNote(u"n"_s, u"A note"_s)});
+    beginEdit();
+    write(u"Here"_s);
+    m_on->live.store.turnPage(u"f"_s, 1);
+    QTRY_VERIFY(!row());
+    m_on->live.store.turnPage(u"f"_s, 0);
+    QTRY_VERIFY(editor());
+    QCOMPARE(m_on->focus(), m_on->field());
+    QCOMPARE(written(), u"Here"_s);
+}
+
+void WritingTest::aTextIsGoneOnWithAtItsEnd()
+{
+    show({aNote(u"n"_s, u"A note"_s)});
+    beginEdit();
+    m_on->type(u"!"_s);
+    QCOMPARE(editor()->property("text"), u"A note!"_s);
+
+    const auto caret = [this] { return m_on->field()->property("cursorPosition").toInt(); };
+    write(u"First"_s);
+    m_on->live.store.turnPage(u"f"_s, 1);
+    QTRY_COMPARE(caret(), 0);
+    m_on->live.store.turnPage(u"f"_s, 0);
+    QTRY_COMPARE(caret(), 5);
+}
+
+void WritingTest::asSoonAsSomethingIsWrittenItIsInSight()
+{
+    show({aNote(u"n"_s, u"A line of a note\n"_s.repeated(90))});
+    QQuickItem *column = m_on->named(u"column"_s);
+    const auto inSight = [&] {
+        const qreal top = m_on->field()->mapToScene({}).y();
+        return top > 0 && top < column->height();
+    };
+    write(u"Here"_s);
+    QVERIFY(inSight());
+    column->setProperty("contentY", 0);
+    QVERIFY(!inSight());
+    m_on->type(u"!"_s);
+    QVERIFY(inSight());
 }
 
 void WritingTest::anEditGoesWithItsNote()
