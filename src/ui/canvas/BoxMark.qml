@@ -10,6 +10,8 @@ Item {
 
     required property boxMark mark
     readonly property color tone: root.mark.tone === Tone.Neutral ? Theme.expected : Theme.tint(root.mark.tone).plain
+    /// It can be seen, and feels the pointer.
+    property bool live: true
     property int hovers: 0
 
     signal toggled
@@ -88,6 +90,11 @@ Item {
                 if (box.activeFocus)
                     root.reached();
             }
+            // A box that goes while it is pointed at hears of no leave.
+            Component.onDestruction: {
+                if (hover.hovered)
+                    root.hovers -= 1;
+            }
 
             Outline {
                 objectName: "line"
@@ -98,13 +105,16 @@ Item {
             }
             HoverHandler {
                 id: hover
+                enabled: root.live
                 onHoveredChanged: root.hovers += hover.hovered ? 1 : -1
             }
             TapHandler {
+                enabled: root.live
                 gesturePolicy: TapHandler.ReleaseWithinBounds
                 onTapped: root.toggled()
             }
             Hint {
+                enabled: root.live
                 text: root.mark.title
             }
             FocusRing {

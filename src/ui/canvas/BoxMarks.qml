@@ -8,6 +8,8 @@ Item {
     id: root
 
     required property CanvasState state
+    /// They show. Those that do not keep the keyboard, but nothing of them is felt under the pointer.
+    property bool live: true
     /// The keyboard came to a mark at this place of the page, in fractions of it.
     signal reached(place: rect)
 
@@ -17,6 +19,7 @@ Item {
             required property boxMark row
             anchors.fill: parent
             mark: row
+            live: root.live
             onToggled: root.state.toggleFocus(row.key)
             onReached: root.reached(row.boxes[0])
         }
@@ -28,6 +31,7 @@ Item {
             x: row.place.x * root.width
             y: row.place.y * root.height
             mark: row
+            live: root.live
             onPressed: {
                 if (row.finding !== "")
                     Store.focusFinding(row.finding);

@@ -64,6 +64,11 @@ FocusScope {
         function onPinningChanged() {
             blending.ours = false;
         }
+        // A press on the card of the finding that has the focus.
+        function onFocusRenewed() {
+            if (root.state.closeup.open)
+                zoom.reveal(root.state.closeup.place);
+        }
     }
     CanvasBar {
         id: bar
@@ -77,6 +82,8 @@ FocusScope {
         anchors.bottom: parent.bottom
         width: parent.width
         color: Theme.canvas
+        // A mark never lies over the bar.
+        clip: true
 
         readonly property size box: root.beside ? CanvasGeometry.sideBySideBox(width, height) : CanvasGeometry.singleBox(width, height)
         /// The left button moves the page instead of pressing what is on it.
@@ -84,6 +91,8 @@ FocusScope {
         /// The keyboard is what the person uses here.
         property bool byKey: false
         readonly property int arrowMove: 48
+        /// What the zoom pill takes of the row of labels.
+        readonly property real pillRoom: pill.count > 0 ? pill.itemAt(0).width + 12 : 0
 
         function move(event: var, x: int, y: int) {
             event.accepted = zoom.zoomed;
@@ -133,12 +142,14 @@ FocusScope {
             over: root.beside ? "" : root.comparison.ours.key
             overOpacity: root.blinking ? (blending.ours ? 1 : 0) : blending.share
             difference: root.subtracting
+            labelEnd: root.beside ? 0 : desk.pillRoom
             onTouched: desk.forceActiveFocus()
 
             BoxMarks {
                 anchors.fill: parent
                 // The marks belong to the supplier's page.
                 opacity: blending.ours ? 0 : 1
+                live: !blending.ours
                 state: root.state
                 onReached: place => zoom.reveal(place)
             }
@@ -166,6 +177,7 @@ FocusScope {
             zoom: zoom
             dot: Theme.tertiary
             missing: root.comparison.matched ? "" : root.comparison.missing
+            labelEnd: desk.pillRoom
             onTouched: desk.forceActiveFocus()
         }
         Hand {
@@ -188,6 +200,7 @@ FocusScope {
             active: root.shown
         }
         When {
+            id: pill
             active: root.any && zoom.zoomed
             ZoomPill {
                 x: desk.width - width - Theme.canvasSide

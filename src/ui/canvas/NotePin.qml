@@ -8,6 +8,8 @@ Item {
     id: root
 
     required property pinMark mark
+    /// It can be seen, and feels the pointer.
+    property bool live: true
     signal pressed
 
     /// Says the note at once; a note on a finding leads to that.
@@ -54,12 +56,15 @@ Item {
         }
         HoverHandler {
             id: hover
+            enabled: root.live
         }
         TapHandler {
+            enabled: root.live
             gesturePolicy: TapHandler.ReleaseWithinBounds
             onTapped: root.press()
         }
         Hint {
+            enabled: root.live
             text: root.mark.text
         }
         FocusRing {

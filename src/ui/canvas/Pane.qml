@@ -17,6 +17,8 @@ Item {
     property string over: ""
     property real overOpacity: 0
     property bool difference: false
+    /// How much of the label's row is kept for something else, at its end.
+    property real labelEnd: 0
     /// Said in place of the page when it is not empty.
     property string missing: ""
     default property alias marks: marks.data
@@ -70,10 +72,12 @@ Item {
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, root.width - 13)
+            width: Math.min(implicitWidth, root.width - 13 - root.labelEnd)
             text: root.label
             size: 11.5
             weight: Font.Medium
+            // Its end tells the page.
+            elide: Text.ElideMiddle
             color: Theme.secondary
         }
     }

@@ -26,7 +26,7 @@ QRectF CanvasGeometry::boxOnPane(QRectF box, qreal width, qreal height)
 
 QRectF CanvasGeometry::pageBehindCrop(const QList<double> &box, qreal aspect, qreal width, qreal height)
 {
-    return vexal::pageBehindCrop(cropRegion(box, aspect), aspect, {width, height});
+    return vexal::pageBehindCrop(box, aspect, {width, height});
 }
 
 QRectF CanvasGeometry::boxOnCrop(QRectF box, QRectF page)

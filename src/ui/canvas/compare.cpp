@@ -1,6 +1,7 @@
 #include "compare.h"
 
 #include "derived.h"
+#include "facts.h"
 
 #include <algorithm>
 
@@ -28,6 +29,21 @@ constexpr qreal highestCrop = 210;
 
 const QString submitted = u"submitted"_s;
 const QString latest = u"latest"_s;
+
+// Where on a page of that height a crop begins. A frame higher than the region ends with the page at the latest; in one
+// that is lower the box stands in the middle, or begins it.
+qreal cropTop(const Box &box, const QRectF &region, qreal pageHeight, qreal frame)
+{
+    const qreal top = region.top() * pageHeight;
+    const qreal hidden = region.height() * pageHeight - frame;
+    if (hidden <= 0)
+        return std::clamp<qreal>(top, 0, std::max<qreal>(0, pageHeight - frame));
+    if (box.size() != 4)
+        return top + hidden / 2;
+    const qreal wanted = box[3] * pageHeight + 2 * markOutside <= frame ? (box[1] + box[3] / 2) * pageHeight - frame / 2
+                                                                        : box[1] * pageHeight - 2 * markOutside;
+    return std::clamp<qreal>(wanted, top, top + hidden);
+}
 
 } // namespace
 
@@ -67,12 +83,12 @@ QString roleChosen(const QStringList &offered, const QString &wanted)
 
 QString supplierPaneLabel(const FileItem &file, const Page &page)
 {
-    return supplierName(file) + u" file · p"_s + pageLabel(page);
+    return isolated(supplierName(file)) + u" file · p"_s + pageLabel(page);
 }
 
 QString overlayPaneLabel(const FileItem &file, const QString &role)
 {
-    return supplierName(file) + u" file over "_s + rolePhrase(role);
+    return isolated(supplierName(file)) + u" file over "_s + rolePhrase(role);
 }
 
 QString missingHeading(const QString &role)
@@ -125,11 +141,11 @@ QRectF cropRegion(const Box &box, qreal aspect)
             std::clamp<qreal>(box[1] + box[3] / 2 - height / 2, 0, 1 - height), width, height};
 }
 
-QRectF pageBehindCrop(const QRectF &region, qreal aspect, QSizeF frame)
+QRectF pageBehindCrop(const Box &box, qreal aspect, QSizeF frame)
 {
-    const qreal scale = frame.width() / region.width();
-    const qreal hidden = std::max<qreal>(0, scale * region.height() / aspect - frame.height());
-    return {-scale * region.x(), -scale * region.y() / aspect - hidden / 2, scale, scale / aspect};
+    const QRectF region = cropRegion(box, aspect);
+    const QSizeF page = QSizeF(1, 1 / aspect) * (frame.width() / region.width());
+    return {QPointF(-region.x() * page.width(), -cropTop(box, region, page.height(), frame.height())), page};
 }
 
 QRectF boxOnCrop(const QRectF &box, const QRectF &page)

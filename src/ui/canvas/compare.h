@@ -40,9 +40,10 @@ QSizeF fittedPage(QSizeF box, qreal aspect);
 /// of the page wide, no wider than 2.6 times its height on the screen, within the page. The whole page for a list that
 /// is no box.
 QRectF cropRegion(const Box &box, qreal aspect);
-/// Where the whole page lies behind a crop's frame of this size in points: its region fills the width. Of a region that
-/// is higher than the frame the middle is seen.
-QRectF pageBehindCrop(const QRectF &region, qreal aspect, QSizeF frame);
+/// Where the whole page lies behind a crop's frame of this size in points: the region around the box fills the width.
+/// Of a region that is higher than the frame the box is seen, or its beginning; below one that is lower, what of the
+/// page follows.
+QRectF pageBehindCrop(const Box &box, qreal aspect, QSizeF frame);
 /// Where a box is drawn on a page that lies there: 3 outside on every side.
 QRectF boxOnCrop(const QRectF &box, const QRectF &page);
 /// How high the loupe's crops are, caption included, when it is this wide: between 120 and 210 points.

@@ -43,12 +43,21 @@ Tone::Value toneOf(const Finding &finding)
     return finding.kind == "expected"_L1 ? Tone::Neutral : Tone::Accent;
 }
 
+// What of a box lies on the page; of one beside it, the place of the edge that is nearest.
+QRectF onPage(const Box &box)
+{
+    const auto held = [](double fraction) { return std::clamp<qreal>(fraction, 0, 1); };
+    const QPointF from(held(box[0]), held(box[1]));
+    return {from, QSizeF(std::max<qreal>(0, held(box[0] + box[2]) - from.x()),
+                         std::max<qreal>(0, held(box[1] + box[3]) - from.y()))};
+}
+
 QList<QRectF> rectanglesOf(const QList<Box> &boxes)
 {
     QList<QRectF> rectangles;
     for (const Box &box : boxes) {
         if (box.size() == 4)
-            rectangles.append({box[0], box[1], box[2], box[3]});
+            rectangles.append(onPage(box));
     }
     return rectangles;
 }

@@ -82,7 +82,8 @@ private Q_SLOTS:
     void aCropAtTheEdgeEndsThere();
     void aListThatIsNoBoxIsCroppedToTheWholePage();
     void aBoxOnACropLiesWhereTheRegionPutsIt();
-    void ofARegionHigherThanItsFrameTheMiddleIsSeen();
+    void inARegionHigherThanItsFrameTheBoxIsSeen();
+    void belowARegionLowerThanItsFrameThePageGoesOn();
     void theLoupeIsBetween120And210High();
     void theOverlaysLabelNamesBoth();
     void pinsCountThePagesPinnedNotes();
@@ -340,18 +341,34 @@ void CompareTest::aBoxOnACropLiesWhereTheRegionPutsIt()
     const QRectF region = cropRegion({box.x(), box.y(), box.width(), box.height()}, aspect);
     const QSizeF frame(390, 150);
     const qreal s = frame.width() / region.width();
-    const QRectF drawn = boxOnCrop(box, pageBehindCrop(region, aspect, frame));
+    const QRectF drawn = boxOnCrop(box, pageBehindCrop({box.x(), box.y(), box.width(), box.height()}, aspect, frame));
     QCOMPARE(drawn.left(), s * (box.x() - region.left()) - 3);
     QCOMPARE(drawn.top(), s * (box.y() - region.top()) / aspect - 3);
     QCOMPARE(drawn.size(), QSizeF(s * box.width() + 6, s * box.height() / aspect + 6));
 }
 
-void CompareTest::ofARegionHigherThanItsFrameTheMiddleIsSeen()
+void CompareTest::inARegionHigherThanItsFrameTheBoxIsSeen()
 {
-    const QRectF box(0.4, 0.3, 0.1, 0.2);
-    const QRectF region = cropRegion({0.4, 0.3, 0.1, 0.2}, 0.8);
-    const QRectF drawn = boxOnCrop(box, pageBehindCrop(region, 0.8, {390, 150}));
-    QCOMPARE(drawn.center(), QPointF(195, 75));
+    const QSizeF frame(390, 150);
+    const auto drawn = [&](const QRectF &box) {
+        return boxOnCrop(box, pageBehindCrop({box.x(), box.y(), box.width(), box.height()}, 0.8, frame));
+    };
+    QCOMPARE(drawn({0.4, 0.3, 0.1, 0.05}).center(), QPointF(195, 75));
+    // At the head and the foot of the page the region is pushed aside, the box is not.
+    QCOMPARE(drawn({0.4, 0, 0.1, 0.05}).top(), -3.0);
+    QCOMPARE(drawn({0.4, 0.95, 0.1, 0.05}).bottom(), 153.0);
+    // Of a box that is higher than the frame, the beginning.
+    QCOMPARE(drawn({0.4, 0.3, 0.1, 0.5}).top(), 3.0);
+    QCOMPARE(drawn({0.4, 0, 0.1, 0.5}).top(), -3.0);
+}
+
+void CompareTest::belowARegionLowerThanItsFrameThePageGoesOn()
+{
+    const QSizeF frame(180, 100);
+    const QRectF middle = pageBehindCrop({0.4, 0.5, 0.1, 0.01}, 0.8, frame);
+    QCOMPARE(middle.top(), -cropRegion({0.4, 0.5, 0.1, 0.01}, 0.8).top() * middle.height());
+    const QRectF foot = pageBehindCrop({0.4, 0.98, 0.1, 0.01}, 0.8, frame);
+    QCOMPARE(foot.bottom(), frame.height());
 }
 
 void CompareTest::theLoupeIsBetween120And210High()

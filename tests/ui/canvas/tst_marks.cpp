@@ -1,4 +1,5 @@
 #include "canvasscreen.h"
+#include "pagezoom.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -49,6 +50,8 @@ class MarksTest : public QObject
 private Q_SLOTS:
     void init();
     void furtherBoxesAreOneMark();
+    void aBoxBeyondThePageEndsWithIt();
+    void marksThatDoNotShowAreNotFelt();
     void pinsStandAtTheirPlacesWithTheirNumbers();
     void aPressedPinSaysItsNote();
     void aClickOnThePagePlacesNothingUnlessPinning();
@@ -67,6 +70,7 @@ private Q_SLOTS:
     void thePageSlidesUpFromUnderTheLoupe();
     void focusingAFindingTurnsToItsPage();
     void focusingAFindingOnAZoomedPageShowsIt();
+    void theFocusedFindingAskedForAgainIsShownAgain();
     void theCropShowsItsBox();
     void theKeyboardReachesEveryMark();
 
@@ -120,6 +124,33 @@ void MarksTest::furtherBoxesAreOneMark()
         // Under the lines of both, so that neither is cut where the two meet.
         QVERIFY(mark->childItems().indexOf(halo) < mark->childItems().indexOf(boxes[0]));
     }
+}
+
+void MarksTest::aBoxBeyondThePageEndsWithIt()
+{
+    FileDetail detail = detailOf({marked(u"large"_s, {-0.5, -0.3, 3, 0.4}), marked(u"beside"_s, {1.5, 0.5, 0.1, 0.1})});
+    store().takeDetail(u"f"_s, detail);
+    QTRY_COMPARE(screen().all("BoxMark").size(), 2);
+    const QRectF page(corner, fitted);
+    const auto drawn = [this](int mark) {
+        return sceneRect(called(u"box"_s, screen().all("BoxMark")[mark]).constFirst());
+    };
+    QCOMPARE(drawn(0), QRectF(page.topLeft(), QSizeF(325, 65)).adjusted(-3, -3, 3, 3));
+    QCOMPARE(drawn(1), QRectF(page.right() - 3, page.top() + 325 - 3, 8, 71));
+}
+
+void MarksTest::marksThatDoNotShowAreNotFelt()
+{
+    const QQuickItem *box = called(u"box"_s, screen().all("BoxMark").first()).constFirst();
+    auto *blending = root()->property("blending").value<QObject *>();
+    store().setMode(CompareMode::Blink);
+    Appearance::of(*qmlEngine(root())).setSeen(false);
+    blending->setProperty("ours", true);
+    screen().click(box);
+    QVERIFY(!store().focus());
+    blending->setProperty("ours", false);
+    screen().click(box);
+    QCOMPARE(store().focus(), u"a"_s);
 }
 
 void MarksTest::pinsStandAtTheirPlacesWithTheirNumbers()
@@ -320,6 +351,22 @@ void MarksTest::focusingAFindingOnAZoomedPageShowsIt()
     QTRY_VERIFY(loupeStands());
     const QRectF free(18, 80, 473, 744 - 24 - screen().only("Loupe")->height() - 80);
     QTRY_VERIFY(free.contains(sceneRect(called(u"box"_s, screen().all("BoxMark")[1]).constFirst())));
+}
+
+void MarksTest::theFocusedFindingAskedForAgainIsShownAgain()
+{
+    screen().press(Qt::Key_1, Qt::ControlModifier);
+    store().focusFinding(u"low"_s);
+    QTRY_VERIFY(loupeStands());
+    auto *zoom = root()->findChild<PageZoom *>();
+    const auto shown = [this] {
+        return sceneRect(called(u"box"_s, screen().all("BoxMark")[1]).constFirst()).bottom() < size.height();
+    };
+    QTRY_VERIFY(shown());
+    zoom->moveBy(0, 2000, fitted);
+    QTRY_VERIFY(!shown());
+    store().focusFinding(u"low"_s);
+    QTRY_VERIFY(shown());
 }
 
 void MarksTest::theCropShowsItsBox()

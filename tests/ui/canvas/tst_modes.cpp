@@ -40,6 +40,7 @@ private Q_SLOTS:
     void withoutOursEveryModeSaysSo();
     void anotherFileStartsAfresh();
     void theLabelsSayWhatIsSeen();
+    void aLongLabelLeavesItsEndAndTheZoomPill();
     void aTurnedPageIsThereInTheVeryFrame();
     void onANarrowCanvasTheBarTakesMoreRows_data();
     void onANarrowCanvasTheBarTakesMoreRows();
@@ -246,6 +247,25 @@ void ModesTest::theLabelsSayWhatIsSeen()
     QVERIFY(screen().texts().contains(u"Ostrel Print file · p1"_s));
     QTRY_VERIFY(blending()->property("ours").toBool());
     QVERIFY(!screen().texts().contains(u"Ostrel Print file · p1"_s));
+}
+
+void ModesTest::aLongLabelLeavesItsEndAndTheZoomPill()
+{
+    FileDetail detail = detailOf();
+    detail.file.supplier = u"A printer of long standing "_s.repeated(8);
+    store().takeBoard(aBoard({detail.file}, 2));
+    store().takeDetail(u"f"_s, detail);
+    store().setMode(CompareMode::Overlay);
+    wheel(middle, 4, Qt::ControlModifier);
+    const QQuickItem *pill = screen().only("ZoomPill");
+    const auto labels = screen().all("Label");
+    const auto label = std::find_if(labels.cbegin(), labels.cend(), [](const QQuickItem *each) {
+        return each->property("text").toString().endsWith(u"file over what we sent"_s);
+    });
+    QVERIFY(label != labels.cend());
+    QVERIFY((*label)->property("truncated").toBool());
+    QCOMPARE((*label)->property("elide").toInt(), int(Qt::ElideMiddle));
+    QVERIFY((*label)->mapRectToScene((*label)->boundingRect()).right() < pill->mapToScene({}).x());
 }
 
 void ModesTest::aTurnedPageIsThereInTheVeryFrame()
