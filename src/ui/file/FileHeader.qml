@@ -18,7 +18,7 @@ Item {
         id: title
         x: 22
         y: 12
-        width: Math.min(implicitWidth, actions.x - 22 - chip.width - 10 - 14)
+        width: Math.max(0, Math.min(implicitWidth, actions.x - 22 - chip.width - 10 - 14))
         height: 34
         verticalAlignment: Text.AlignVCenter
         text: root.header.title
@@ -42,21 +42,32 @@ Item {
         state: root.state
         roomy: root.roomy
     }
-    Label {
+    Row {
         id: report
         anchors.right: actions.right
         anchors.verticalCenter: facts.verticalCenter
         visible: !root.roomy
-        text: root.state.report.by
-        size: 11.5
-        color: Theme.secondary
+        spacing: 7
+        Label {
+            visible: root.state.report.failed
+            text: "The last report didn't finish."
+            size: 11.5
+            color: Theme.issue.ink
+        }
+        Label {
+            visible: text.length > 0
+            width: Math.min(implicitWidth, 240)
+            text: root.state.report.by
+            size: 11.5
+            color: Theme.secondary
+        }
     }
     Label {
         id: facts
         x: 22
         anchors.top: title.bottom
         anchors.topMargin: 2
-        width: root.width - 44 - (report.visible ? report.implicitWidth + 14 : 0)
+        width: Math.max(0, root.width - 44 - (report.visible && report.width > 0 ? report.width + 14 : 0))
         text: root.header.facts
         size: 13
         color: Theme.secondary

@@ -43,6 +43,16 @@ FocusScope {
         focus: true
         state: canvas
     }
+    When {
+        active: root.state.loading && root.state.problem.length === 0
+        LoadingPage {
+            x: compare.x
+            y: compare.y
+            width: compare.width
+            height: compare.height
+            thumb: root.state.thumbs.length > 0 ? root.state.thumbs[0] : ""
+        }
+    }
     FileProblem {
         anchors.centerIn: compare
         visible: root.state.problem.length > 0

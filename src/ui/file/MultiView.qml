@@ -10,6 +10,7 @@ Item {
     required property FileState state
 
     Column {
+        id: column
         anchors.centerIn: parent
         width: Math.min(parent.width - 40, 460)
 
@@ -21,22 +22,32 @@ Item {
             weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
-        Flow {
-            id: thumbs
-            readonly property int perRow: Math.max(1, Math.min(root.state.thumbs.length, Math.floor((parent.width + 5) / 75)))
+        Flickable {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: perRow * 75 - 5
-            spacing: 5
+            width: thumbs.width
+            // More faces than there is room for are scrolled: what can be done with them stays in sight.
+            height: Math.min(thumbs.height, Math.max(90, root.height - 220))
+            contentHeight: thumbs.height
+            interactive: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
+            clip: interactive
 
-            Repeater {
-                model: root.state.thumbs
+            Flow {
+                id: thumbs
+                readonly property int perRow: Math.max(1, Math.min(root.state.thumbs.length, Math.floor((column.width + 5) / 75)))
+                width: perRow * 75 - 5
+                spacing: 5
 
-                Thumb {
-                    required property string modelData
-                    width: 70
-                    height: 90
-                    radius: 3
-                    key: modelData
+                Repeater {
+                    model: root.state.thumbs
+
+                    Thumb {
+                        required property string modelData
+                        width: 70
+                        height: 90
+                        radius: 3
+                        key: modelData
+                    }
                 }
             }
         }

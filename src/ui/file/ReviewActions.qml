@@ -18,7 +18,7 @@ Row {
 
     Label {
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.report.failed
+        visible: root.roomy && root.report.failed
         text: "The last report didn't finish."
         size: 11.5
         color: Theme.issue.ink
@@ -26,6 +26,7 @@ Row {
     Label {
         anchors.verticalCenter: parent.verticalCenter
         visible: root.roomy && root.report.report.length > 0
+        width: Math.min(implicitWidth, 240)
         text: root.report.by
         size: 11.5
         color: Theme.secondary

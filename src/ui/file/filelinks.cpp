@@ -1,6 +1,7 @@
 #include "filelinks.h"
 
 #include "derived.h"
+#include "facts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +21,7 @@ QList<FileLink> fileLinks(const FileItem &file)
 {
     const Links links = file.links.value_or(Links());
     return {{u"Email"_s, u"envelope"_s, links.gmail.value_or(QString())},
-            {supplierName(file) + u" file"_s, u"doc"_s, links.drive.value_or(QString())},
+            {isolated(supplierName(file)) + u" file"_s, u"doc"_s, links.drive.value_or(QString())},
             {u"PO folder"_s, u"folder"_s, links.drive_folder.value_or(QString())},
             {u"InDesign"_s, u"pencil.and.ruler"_s, links.indd.value_or(QString())},
             {u"What we sent"_s, u"arrow.up.doc"_s, linkOf(file, u"submitted"_s)},

@@ -57,8 +57,10 @@ ReportProgress reportProgress(const QSet<QString> &files, const BoardState &boar
         const JobStage::Value stage = jobStage(job->status);
         progress.making = stage == JobStage::InLine || stage == JobStage::Running;
         progress.job = job->id;
-        progress.step =
-            stage == JobStage::InLine ? u"Report in line"_s : shownText(job->step.value_or(u"Making the report"_s));
+        const QString step = shownText(job->step.value_or(QString()));
+        progress.step = stage == JobStage::InLine ? u"Report in line"_s
+                        : step.isEmpty()          ? u"Making the report"_s
+                                                  : step;
         progress.stopping = busy.contains(u"stop-"_s + job->id);
         progress.failed = stage == JobStage::Stuck || job->status == "failed"_L1;
     }

@@ -31,7 +31,7 @@ QStringList stepsSoFar(const Job &job)
 
 QString started(const Job &job, const BoardState *board, const Clock &clock)
 {
-    const QString by = u"Started by "_s + displayName(job.requested_by, board);
+    const QString by = u"Started by "_s + isolated(displayName(job.requested_by, board));
     return job.started ? by + u' ' + relativeTime(job.started, clock) : by;
 }
 

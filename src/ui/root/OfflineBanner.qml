@@ -36,10 +36,13 @@ Banner {
         anchors.left: symbol.right
         anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, 0.7 * root.width)
+        width: Math.min(implicitWidth, parent.width - x - 8 - Math.min(calm.implicitWidth, 0.3 * parent.width))
         text: root.problem.replace(/\s+/g, " ")
         size: 12.5
         spoken: false
+        Hint {
+            text: problem.truncated ? root.problem : ""
+        }
     }
     Label {
         id: calm

@@ -67,7 +67,10 @@ private Q_SLOTS:
     void theFirstBoardAsksForItsFileOnce();
     void aFileThatCannotBeHadSaysWhyAndIsAskedForAgain();
     void linksThatAreMissingSayNotFound();
+    void aBareSheetStandsWhereThePageWillLie();
+    void longNamesLeaveTheHeaderWhole();
     void severalFilesMakeOneReport();
+    void manyFilesLeaveRoomForWhatIsDoneWithThem();
 
 private:
     Screen shown(const QByteArray &qml = fileQml) { return Screen(m_live->store, qml, {1200, 800}); }
@@ -236,6 +239,71 @@ void FileViewTest::linksThatAreMissingSayNotFound()
         QCOMPARE(pill->property("help").toString(), u"Not found"_s);
         QCOMPARE(pill->opacity(), 0.7);
     }
+}
+
+void FileViewTest::aBareSheetStandsWhereThePageWillLie()
+{
+    Gate gate;
+    FileDetail detail = aDetail(u"b"_s, 1);
+    detail.file.pages->first().px = QList<double>{707, 1000};
+    m_live->details[u"b"_s] = detail;
+    m_live->client.server.on("GET", "/api/files/b").answer(Answer(200, encode(detail)).heldBy(gate));
+    m_live->begin();
+    Screen screen = shown();
+    m_live->store.selectFile(u"b"_s);
+    const QQuickItem *sheet = screen.only("LoadingPage")->findChild<QQuickItem *>(u"sheet"_s);
+    const QRectF before = sheet->mapRectToScene(sheet->boundingRect());
+    gate.open();
+    QTRY_VERIFY(screen.all("LoadingPage").isEmpty());
+    const QQuickItem *page = screen.all("BoxMarks").value(0);
+    QVERIFY(page);
+    const QRectF after = page->mapRectToScene(page->boundingRect());
+    QVERIFY2((before.center() - after.center()).manhattanLength() < 2, qPrintable(QString::number(before.y())));
+    QVERIFY(std::abs(before.height() - after.height()) < 2);
+}
+
+void FileViewTest::longNamesLeaveTheHeaderWhole()
+{
+    m_live->board.users = {Person{.email = u"l@x.example"_s, .name = QString(300, u'w')}};
+    Report report;
+    report.id = u"r"_s;
+    report.file_ids = {u"a"_s};
+    report.by = u"l@x.example"_s;
+    m_live->board.reports = {report};
+    m_live->board.jobs = {aJob(u"report"_s, u"failed"_s)};
+    m_live->board.jobs[0].args = JobArgs{QStringList{u"a"_s}};
+    m_live->begin();
+    for (const QSize size : {QSize(892, 700), QSize(1212, 900)}) {
+        Screen screen(m_live->store, fileQml, size);
+        const QQuickItem *header = screen.only("FileHeader");
+        QVERIFY(screen.only("ReviewActions")->mapToItem(header, {}).x() > 200);
+        for (const QQuickItem *label : screen.all("Label")) {
+            if (!header->isAncestorOf(label))
+                continue;
+            const QRectF place = label->mapRectToItem(header, label->boundingRect());
+            QVERIFY2(label->width() >= 0 && place.left() >= 0 && place.right() <= header->width(),
+                     qPrintable(label->property("text").toString().left(40)));
+        }
+    }
+}
+
+void FileViewTest::manyFilesLeaveRoomForWhatIsDoneWithThem()
+{
+    QList<FileItem> files;
+    for (int i = 0; i < 200; ++i)
+        files.append(aFile(QString::number(i)));
+    m_live->board.files = files;
+    m_live->begin();
+    for (const FileItem &file : files) {
+        if (!m_live->store.selection().contains(file.id))
+            m_live->store.selectFile(file.id, true);
+    }
+    Screen screen = shown(filesQml);
+    QVERIFY(screen.texts().contains(u"200 files"_s));
+    const QQuickItem *button = screen.only("BigButton");
+    const QRectF place = button->mapRectToScene(button->boundingRect());
+    QVERIFY(place.top() > 0 && place.bottom() < screen.window().height());
+    QVERIFY(screen.all("Thumb").first()->mapToScene({}).y() > 0);
 }
 
 void FileViewTest::severalFilesMakeOneReport()
