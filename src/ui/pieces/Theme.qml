@@ -99,6 +99,8 @@ QtObject {
     readonly property int canvasSide: 18
     readonly property int canvasFoot: 14
     readonly property int labelRow: 22
+    /// The title of a section, which stays at the top of its list.
+    readonly property int listTitle: 30
 
     /// How small a pressed piece gets, and how much darker a solid one.
     readonly property real pressedScale: 0.985

@@ -9,6 +9,10 @@ Item {
 
     required property fileRow row
     required property int index
+    readonly property bool current: root.ListView.isCurrentItem && root.ListView.view.activeFocus
+    /// The keyboard came here with a click, which needs no ring to be found.
+    property bool clicked: false
+    onCurrentChanged: root.clicked = root.clicked && root.current
 
     width: ListView.view ? ListView.view.width - 16 : 0
     height: 56
@@ -16,9 +20,12 @@ Item {
     FileRow {
         width: parent.width
         row: root.row
-        current: root.ListView.isCurrentItem && root.ListView.view.activeFocus
+        current: root.current
+        ring: root.current && !root.clicked
         onSelected: additive => {
             root.ListView.view.currentIndex = root.index;
+            root.ListView.view.forceActiveFocus(Qt.MouseFocusReason);
+            root.clicked = true;
             Store.selectFile(root.row.key, additive);
         }
     }

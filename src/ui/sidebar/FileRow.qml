@@ -10,6 +10,8 @@ Item {
     required property fileRow row
     /// The list's keyboard cursor is here.
     property bool current: false
+    /// And it is shown there.
+    property bool ring: root.current
     signal selected(additive: bool)
 
     implicitHeight: 50
@@ -42,7 +44,7 @@ Item {
         opacity: Theme.chosenOutline
     }
     FocusRing {
-        visible: root.current
+        visible: root.ring
         around: 10
     }
     Thumb {

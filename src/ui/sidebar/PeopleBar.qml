@@ -13,31 +13,52 @@ Item {
 
     implicitHeight: 46
 
-    Row {
-        id: faces
-        // Many people stand closer, one behind the other if need be.
-        readonly property real room: activity.x - x - 14
-        x: 17
-        anchors.verticalCenter: parent.verticalCenter
-        spacing: Math.min(11, (room - 22 * crowd.count) / Math.max(1, crowd.count - 1))
+    Flickable {
+        id: bar
+        // With room around them for the rings.
+        readonly property int around: 5
+        readonly property real room: bar.width - 2 * bar.around
+        x: 17 - bar.around
+        width: activity.x - x - 9
+        height: parent.height
+        contentWidth: faces.width + 2 * bar.around
+        interactive: bar.contentWidth > bar.width
+        boundsBehavior: Flickable.StopAtBounds
+        clip: bar.interactive
 
-        Repeater {
-            id: crowd
-            model: root.people
+        Row {
+            id: faces
+            x: bar.around
+            anchors.verticalCenter: parent.verticalCenter
+            // Many people stand closer; of a crowd the others are scrolled to.
+            spacing: Math.max(3, Math.min(11, (bar.room - 22 * crowd.count) / Math.max(1, crowd.count - 1)))
 
-            Avatar {
-                required property personRow row
-                required property int index
-                // Where they stand one behind the other, nobody covers the dot of the one before.
-                z: -index
-                email: row.key
-                name: row.name
-                size: 22
-                ring: row.live
-                dot: row.live
-                help: row.help
-                photo: row.photo
-                color: row.color
+            Repeater {
+                id: crowd
+                model: root.people
+
+                Avatar {
+                    required property personRow row
+                    required property int index
+                    // Nobody covers the dot of the one before.
+                    z: -index
+                    email: row.key
+                    name: row.name
+                    size: 22
+                    ring: row.live
+                    dot: row.live
+                    help: row.help
+                    photo: row.photo
+                    color: row.color
+                }
+            }
+        }
+        WheelHandler {
+            enabled: bar.interactive
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+            onWheel: event => {
+                const by = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
+                bar.contentX = Math.max(0, Math.min(bar.contentWidth - bar.width, bar.contentX - by / 2));
             }
         }
     }

@@ -3,19 +3,23 @@ import QtQuick
 import Vexal.Pieces
 
 /// The title over a section of files. It stays at the top of the list while its rows pass under it.
-Rectangle {
+Item {
     id: root
 
     required property string section
 
-    height: label.implicitHeight + 16
-    color: Theme.sidebar
+    implicitHeight: Theme.listTitle
 
     Accessible.role: Accessible.Heading
     Accessible.name: root.section
 
+    Rectangle {
+        width: parent.width
+        // What lies below is the room for the first row's focus ring.
+        height: parent.height - 4
+        color: Theme.sidebar
+    }
     Label {
-        id: label
         x: 10
         y: 12
         spoken: false

@@ -2,6 +2,7 @@
 
 #include "derived.h"
 #include "displayname.h"
+#include "facts.h"
 #include "relativetime.h"
 
 #include <QHash>
@@ -25,11 +26,12 @@ QString withFirstSmall(const QString &text)
 
 QString phrase(const Event &event)
 {
-    QString text = shownText(event.text);
+    const QString shown = shownText(event.text);
+    QString text = isolated(shown);
     if (event.kind == "comment"_L1)
         return u"left a note: “"_s + text + u'”';
     if (event.kind == "finding"_L1 || event.kind == "status"_L1 || event.kind == "report"_L1 || event.kind == "stop"_L1)
-        return withFirstSmall(text);
+        return isolated(withFirstSmall(shown));
     if (event.kind == "sync"_L1)
         return u"started a sync"_s;
     if (event.kind == "synced"_L1 || event.kind == "new_file"_L1)
@@ -83,7 +85,7 @@ ActivityRow activityRow(const Event &event, const BoardState &board, const Known
         row.photo = person->photo.value_or(QString());
         row.color = person->color.value_or(QString());
     }
-    const QString actorName = event.by ? displayName(event.by, &board) : QString();
+    const QString actorName = event.by ? isolated(displayName(event.by, &board)) : QString();
     row.sentence = activitySentence(event, actorName);
     row.styled = styledSentence(actorName, phrase(event));
     row.when = relativeTime(momentOf(event.at), clock);

@@ -33,13 +33,15 @@ void FileListState::update()
     const QList<FileItem> files = board ? board->files : QList<FileItem>();
     const QList<size_t> fingerprints = board ? m_store->fileFingerprints() : QList<size_t>();
     const bool isChosen = m_selection != m_store->selection();
+    const QSet<QString> before = m_selection;
     m_selection = m_store->selection();
     if (!renewRows(files, fingerprints))
         arrangeRows(files, fingerprints);
     else if (isChosen)
         listRows();
     m_fingerprints = fingerprints;
-    if (isChosen)
+    // What is left of several was seen when it was selected.
+    if (isChosen && m_selection.size() == 1 && !before.contains(m_selection))
         Q_EMIT chosen();
     if (m_empty == files.isEmpty())
         return;

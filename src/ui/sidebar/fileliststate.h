@@ -30,7 +30,7 @@ public:
     Q_INVOKABLE int chosenRow() const;
 
 Q_SIGNALS:
-    /// The person, or the program for them, has selected something else.
+    /// The person, or the program for them, has selected one other file.
     void chosen();
     void storeChanged();
     void emptyChanged();

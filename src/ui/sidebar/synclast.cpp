@@ -1,6 +1,7 @@
 #include "synclast.h"
 
 #include "displayname.h"
+#include "facts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +20,7 @@ QString outcome(const Job &job, const BoardState *board, const Clock &clock)
     const QString when = u" · "_s + relativeTime(job.finished, clock);
     if (job.status != "done"_L1)
         return u"Last sync didn't finish"_s + when;
-    return newFiles(job) + u" · "_s + displayName(job.requested_by, board) + when;
+    return newFiles(job) + u" · "_s + isolated(displayName(job.requested_by, board)) + when;
 }
 
 } // namespace

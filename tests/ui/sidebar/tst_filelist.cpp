@@ -34,6 +34,11 @@ private Q_SLOTS:
     void takingTheOnlyOneAwayEmptiesTheSelection();
     void aClickLetsGoOfTheFocus();
     void theKeyboardReachesEveryRow();
+    void theKeyboardAddsAndTakesAway();
+    void homeEndAndWholePagesMoveTheCursorAlone();
+    void addingAFileMovesNothing();
+    void whatIsShownIsBelowTheTitleOfItsSection();
+    void aClickBringsTheKeyboardButNoRing();
     void sectionsHaveTheirHeadings();
     void anEmptyBoardSaysWhatToDo();
     void aNewBoardMovesRowsAndBuildsNone();
@@ -41,6 +46,8 @@ private Q_SLOTS:
     void whateverABoardChangesEachRowIsOfItsFile();
 
 private:
+    void showHundred();
+    QQuickItem *list() const;
     QStringList keys() const;
     QQuickItem *row(const QString &key) const;
 
@@ -113,6 +120,92 @@ void FileListTest::theKeyboardReachesEveryRow()
     m_screen->press(Qt::Key_Up);
     m_screen->press(Qt::Key_Space);
     QCOMPARE(m_store->selection(), QSet<QString>{u"b"_s});
+}
+
+void FileListTest::theKeyboardAddsAndTakesAway()
+{
+    m_screen->press(Qt::Key_Down);
+    m_screen->press(Qt::Key_Space, Qt::ControlModifier);
+    QCOMPARE(m_store->selection(), QSet<QString>({u"a"_s, u"b"_s}));
+    m_screen->press(Qt::Key_Space, Qt::ControlModifier);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"a"_s});
+}
+
+void FileListTest::showHundred()
+{
+    QList<FileItem> files;
+    for (int i = 0; i < 100; ++i)
+        files.append(aFile(QString::number(i)));
+    m_store->takeBoard(aBoard(files, 2));
+    m_store->selectFile(u"0"_s);
+    QTRY_COMPARE(list()->property("count").toInt(), 100);
+}
+
+QQuickItem *FileListTest::list() const
+{
+    return m_screen->window().rootObject()->findChild<QQuickItem *>(u"files"_s);
+}
+
+void FileListTest::addingAFileMovesNothing()
+{
+    showHundred();
+    list()->setProperty("contentY", 3000);
+    QTRY_VERIFY(row(u"56"_s));
+    m_screen->click(row(u"56"_s), Qt::ControlModifier);
+    QCOMPARE(m_store->selection(), QSet<QString>({u"0"_s, u"56"_s}));
+    QCOMPARE(list()->property("contentY").toReal(), 3000.0);
+    // Nor does taking it away again, which leaves one that is far off.
+    m_screen->click(row(u"56"_s), Qt::ControlModifier);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"0"_s});
+    QCOMPARE(list()->property("contentY").toReal(), 3000.0);
+}
+
+void FileListTest::whatIsShownIsBelowTheTitleOfItsSection()
+{
+    showHundred();
+    const auto top = [this](const QString &key) { return row(key) ? row(key)->mapToItem(list(), {}).y() : -1; };
+    list()->setProperty("contentY", 3000);
+    m_store->selectFile(u"20"_s);
+    QTRY_COMPARE(top(u"20"_s), 30.0);
+    m_screen->press(Qt::Key_End);
+    m_screen->press(Qt::Key_Home);
+    QTRY_COMPARE(top(u"0"_s), 30.0);
+    m_screen->press(Qt::Key_End);
+    for (int i = 0; i < 15; ++i)
+        m_screen->press(Qt::Key_Up);
+    QTRY_COMPARE(top(u"84"_s), 30.0);
+}
+
+void FileListTest::aClickBringsTheKeyboardButNoRing()
+{
+    const auto ring = [this](const QString &key) { return row(key)->property("ring").toBool(); };
+    m_screen->click(row(u"b"_s));
+    QVERIFY(list()->hasActiveFocus());
+    QVERIFY(!ring(u"b"_s));
+    m_screen->press(Qt::Key_Down);
+    QVERIFY(ring(u"c"_s));
+    m_screen->press(Qt::Key_Return);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"c"_s});
+}
+
+void FileListTest::homeEndAndWholePagesMoveTheCursorAlone()
+{
+    showHundred();
+    const auto cursor = [this] { return list()->property("currentIndex").toInt(); };
+
+    m_screen->press(Qt::Key_End);
+    QCOMPARE(cursor(), 99);
+    m_screen->press(Qt::Key_End);
+    QCOMPARE(cursor(), 99);
+    m_screen->press(Qt::Key_PageUp);
+    QCOMPARE(cursor(), 89); // ten rows of 56 points under the title of a list of 600
+    m_screen->press(Qt::Key_PageDown);
+    QCOMPARE(cursor(), 99);
+    m_screen->press(Qt::Key_Home);
+    QCOMPARE(cursor(), 0);
+    m_screen->press(Qt::Key_PageUp);
+    QCOMPARE(cursor(), 0);
+    QCOMPARE(m_store->selection(), QSet<QString>{u"0"_s});
 }
 
 void FileListTest::sectionsHaveTheirHeadings()
