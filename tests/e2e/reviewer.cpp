@@ -58,13 +58,15 @@ bool Reviewer::step(const QString &key) const
 
 bool Reviewer::tabTo(const QString &role, const QString &name, const QString &key) const
 {
-    for (int i = 0; i < mostSteps; ++i) {
-        if (!step(key))
-            return false;
+    QStringList way;
+    for (int i = 0; i < mostSteps && step(key); ++i) {
         const auto there = m_vexal.focus();
         if (there && there->role() == role && there->name() == name)
             return true;
+        way.append(there ? there->role() + u" “"_s + there->name() + u'”' : u"nowhere"_s);
     }
+    qWarning("The %s key never came to the %s “%s”, but to: %s", qPrintable(key), qPrintable(role), qPrintable(name),
+             qPrintable(way.join(u", ")));
     return false;
 }
 
