@@ -21,6 +21,24 @@ constexpr uint enabled = 8;
 constexpr uint focused = 12;
 constexpr uint showing = 25;
 
+// What was answered; empty when nothing was, or a refusal.
+QVariant answered(QDBusPendingCall call)
+{
+    call.waitForFinished();
+    const QDBusMessage reply = call.reply();
+    return reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0) : QVariant();
+}
+
+QString propertyIn(const QDBusPendingCall &call)
+{
+    return answered(call).value<QDBusVariant>().variant().toString();
+}
+
+uint statesIn(const QDBusPendingCall &call)
+{
+    return qdbus_cast<QList<uint>>(answered(call)).value(0);
+}
+
 } // namespace
 
 Accessible::Accessible(const QDBusConnection &bus, const QString &program, const QString &path)
@@ -30,51 +48,42 @@ Accessible::Accessible(const QDBusConnection &bus, const QString &program, const
 {
 }
 
-QList<QVariant> Accessible::ask(const QString &interface, const QString &method, const QList<QVariant> &arguments) const
+QDBusPendingCall Accessible::ask(const QLatin1StringView &interface, const QString &method,
+                                 const QList<QVariant> &arguments) const
 {
     auto call = QDBusMessage::createMethodCall(m_program, m_path, interface, method);
     call.setArguments(arguments);
-    const QDBusMessage reply = m_bus.call(call, QDBus::Block, patience);
-    return reply.type() == QDBusMessage::ReplyMessage ? reply.arguments() : QList<QVariant>{};
+    return m_bus.asyncCall(call, patience);
 }
 
-QVariant Accessible::property(const QString &name) const
+QDBusPendingCall Accessible::askForProperty(const QString &name) const
 {
-    const auto reply = ask(u"org.freedesktop.DBus.Properties"_s, u"Get"_s, {QString(accessibleInterface), name});
-    return reply.isEmpty() ? QVariant() : reply.first().value<QDBusVariant>().variant();
+    return ask("org.freedesktop.DBus.Properties"_L1, u"Get"_s, {QString(accessibleInterface), name});
 }
 
 QString Accessible::name() const
 {
-    return property(u"Name"_s).toString();
+    return propertyIn(askForProperty(u"Name"_s));
 }
 
 QString Accessible::description() const
 {
-    return property(u"Description"_s).toString();
+    return propertyIn(askForProperty(u"Description"_s));
 }
 
 QString Accessible::role() const
 {
-    const auto reply = ask(accessibleInterface, u"GetRoleName"_s);
-    return reply.isEmpty() ? QString() : reply.first().toString();
+    return answered(ask(accessibleInterface, u"GetRoleName"_s)).toString();
 }
 
 bool Accessible::hasState(uint number) const
 {
-    const auto reply = ask(accessibleInterface, u"GetState"_s);
-    const auto states = reply.isEmpty() ? QList<uint>() : qdbus_cast<QList<uint>>(reply.first());
-    return !states.isEmpty() && (states.first() & 1U << number) != 0;
+    return (statesIn(ask(accessibleInterface, u"GetState"_s)) & 1U << number) != 0;
 }
 
 bool Accessible::isEnabled() const
 {
     return hasState(enabled);
-}
-
-bool Accessible::isShowing() const
-{
-    return hasState(showing);
 }
 
 bool Accessible::isFocused() const
@@ -87,13 +96,13 @@ bool Accessible::isChecked() const
     return hasState(checked);
 }
 
-QList<Accessible> Accessible::children() const
+QList<Accessible> Accessible::childrenIn(const QDBusPendingCall &reply) const
 {
-    const auto reply = ask(accessibleInterface, u"GetChildren"_s);
-    if (reply.isEmpty())
+    const QVariant told = answered(reply);
+    if (!told.isValid())
         return {};
     QList<Accessible> children;
-    const auto references = reply.first().value<QDBusArgument>();
+    const auto references = told.value<QDBusArgument>();
     references.beginArray();
     while (!references.atEnd()) {
         QString program;
@@ -107,13 +116,18 @@ QList<Accessible> Accessible::children() const
     return children;
 }
 
+QList<Accessible> Accessible::children() const
+{
+    return childrenIn(ask(accessibleInterface, u"GetChildren"_s));
+}
+
 QRect Accessible::place() const
 {
-    const auto reply = ask(u"org.a11y.atspi.Component"_s, u"GetExtents"_s, {screenCoordinates});
-    if (reply.isEmpty())
+    const QVariant told = answered(ask("org.a11y.atspi.Component"_L1, u"GetExtents"_s, {screenCoordinates}));
+    if (!told.isValid())
         return {};
     int x = 0, y = 0, width = 0, height = 0;
-    const auto extents = reply.first().value<QDBusArgument>();
+    const auto extents = told.value<QDBusArgument>();
     extents.beginStructure();
     extents >> x >> y >> width >> height;
     extents.endStructure();
@@ -122,12 +136,12 @@ QRect Accessible::place() const
 
 int Accessible::pressAction() const
 {
-    const auto reply = ask(actionInterface, u"GetActions"_s);
-    if (reply.isEmpty())
+    const QVariant told = answered(ask(actionInterface, u"GetActions"_s));
+    if (!told.isValid())
         return 0;
     int press = -1;
     int number = 0;
-    const auto actions = reply.first().value<QDBusArgument>();
+    const auto actions = told.value<QDBusArgument>();
     actions.beginArray();
     for (; !actions.atEnd(); ++number) {
         QString name, description, keys;
@@ -143,35 +157,59 @@ int Accessible::pressAction() const
 
 bool Accessible::press() const
 {
-    const auto reply = ask(actionInterface, u"DoAction"_s, {pressAction()});
-    return !reply.isEmpty() && reply.first().toBool();
+    return answered(ask(actionInterface, u"DoAction"_s, {pressAction()})).toBool();
 }
 
-std::optional<Accessible> Accessible::find(const std::function<bool(const Accessible &)> &fits) const
+// Everything is asked before the first answer is awaited: what shows for a moment only would be gone before a walk from
+// thing to thing came to it.
+QList<Accessible::Sight> Accessible::look(const QList<Accessible> &things)
 {
-    QList<Accessible> queue = children();
-    for (qsizetype i = 0; i < queue.size() && i < mostVisited; ++i) {
-        const Accessible candidate = queue[i];
-        if (!candidate.isShowing())
-            continue;
-        if (fits(candidate))
-            return candidate;
-        queue += candidate.children();
+    struct Asked
+    {
+        QDBusPendingCall role, name, states, children;
+    };
+    QList<Asked> asked;
+    for (const Accessible &thing : things) {
+        asked.append({thing.ask(accessibleInterface, u"GetRoleName"_s), thing.askForProperty(u"Name"_s),
+                      thing.ask(accessibleInterface, u"GetState"_s), thing.ask(accessibleInterface, u"GetChildren"_s)});
+    }
+    QList<Sight> sights;
+    for (qsizetype i = 0; i < things.size(); ++i) {
+        sights.append({things[i], answered(asked[i].role).toString(), propertyIn(asked[i].name),
+                       statesIn(asked[i].states), things[i].childrenIn(asked[i].children)});
+    }
+    return sights;
+}
+
+std::optional<Accessible> Accessible::find(const std::function<bool(const Sight &)> &fits) const
+{
+    int visited = 0;
+    for (QList<Accessible> level = children(); !level.isEmpty() && visited < mostVisited;) {
+        visited += int(level.size());
+        const QList<Sight> sights = look(level);
+        level.clear();
+        for (const Sight &candidate : sights) {
+            if (!candidate.has(showing))
+                continue;
+            if (fits(candidate))
+                return candidate.thing;
+            level += candidate.children;
+        }
     }
     return std::nullopt;
 }
 
 std::optional<Accessible> Accessible::find(const QString &role, const QString &name) const
 {
-    return find([&](const Accessible &candidate) { return candidate.role() == role && candidate.name() == name; });
+    return find([&](const Sight &candidate) { return candidate.role == role && candidate.name == name; });
 }
 
 QList<Accessible> Accessible::all(const QString &role) const
 {
     QList<Accessible> found;
-    find([&](const Accessible &candidate) {
-        if (candidate.role() == role)
-            found.append(candidate);
+    find([&](const Sight &candidate) {
+        if (candidate.role == role)
+            found.append(candidate.thing);
         return false;
     });
     return found;
@@ -180,9 +218,9 @@ QList<Accessible> Accessible::all(const QString &role) const
 std::optional<Accessible> Accessible::focus() const
 {
     std::optional<Accessible> innermost;
-    find([&](const Accessible &candidate) {
-        if (candidate.isFocused())
-            innermost = candidate;
+    find([&](const Sight &candidate) {
+        if (candidate.has(focused))
+            innermost = candidate.thing;
         return false;
     });
     return innermost;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusPendingCall>
 #include <QList>
 #include <QRect>
 #include <QString>
@@ -15,15 +16,15 @@ namespace vexal {
 class Accessible
 {
 public:
+    struct Sight;
+
     Accessible(const QDBusConnection &bus, const QString &program, const QString &path);
 
     QString busName() const { return m_program; } ///< Of its program.
     QString name() const;                         ///< What a person reads.
     QString description() const;                  ///< The tooltip.
     QString role() const;                         ///< "push button", "alert".
-    QList<Accessible> children() const;
     bool isEnabled() const;
-    bool isShowing() const; ///< As against there, but hidden.
     bool isFocused() const; ///< It has the keyboard.
     bool isChecked() const; ///< It is on.
 
@@ -36,8 +37,9 @@ public:
     /// Does what it is there for. False when it takes no action.
     bool press() const;
 
-    /// The nearest to this among its descendants that fits, of those that show.
-    std::optional<Accessible> find(const std::function<bool(const Accessible &)> &fits) const;
+    QList<Accessible> children() const;
+    /// The nearest to this among its descendants that fits, of those that show, as against being there, but hidden.
+    std::optional<Accessible> find(const std::function<bool(const Sight &)> &fits) const;
     std::optional<Accessible> find(const QString &role, const QString &name) const;
     /// Every descendant of the role that shows, nearest first.
     QList<Accessible> all(const QString &role) const;
@@ -47,12 +49,27 @@ public:
 private:
     bool hasState(uint number) const;
     int pressAction() const; ///< Its number: taking the focus may come before it.
-    QVariant property(const QString &name) const;
-    QList<QVariant> ask(const QString &interface, const QString &method, const QList<QVariant> &arguments = {}) const;
+    QDBusPendingCall askForProperty(const QString &name) const;
+    QDBusPendingCall ask(const QLatin1StringView &interface, const QString &method,
+                         const QList<QVariant> &arguments = {}) const;
+    QList<Accessible> childrenIn(const QDBusPendingCall &reply) const;
+    static QList<Sight> look(const QList<Accessible> &things);
 
     QDBusConnection m_bus;
     QString m_program;
     QString m_path;
+};
+
+/// What a thing tells of itself at one moment.
+struct Accessible::Sight
+{
+    Accessible thing;
+    QString role;
+    QString name;
+    uint states = 0;
+    QList<Accessible> children;
+
+    bool has(uint state) const { return (states & 1U << state) != 0; }
 };
 
 } // namespace vexal

@@ -148,8 +148,9 @@ void Desk::startDisplay()
     QDir(m_home.path()).mkpath(u"frame"_s);
     m_display.setProcessEnvironment(m_environment);
     m_display.setStandardErrorFile(QProcess::nullDevice());
+    // Its keys do not repeat: a busy machine may take long between a key's press and its release.
     m_display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x1000x24"_s, u"-nolisten"_s,
-                                u"tcp"_s, u"-noreset"_s, u"-br"_s, u"-fbdir"_s, path(u"frame"_s)});
+                                u"tcp"_s, u"-noreset"_s, u"-r"_s, u"-br"_s, u"-fbdir"_s, path(u"frame"_s)});
     QByteArray number;
     while (!number.contains('\n')) {
         if (!m_display.waitForReadyRead(patience))

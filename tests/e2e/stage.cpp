@@ -85,8 +85,8 @@ bool Stage::signsIn(const VexalProcess &vexal)
 {
     const auto choose = [this] {
         const auto browser = m_desk.program(u"chromium"_s);
-        const auto isMira = [](const Accessible &candidate) {
-            return candidate.role() == "push button"_L1 && candidate.name().contains(mira);
+        const auto isMira = [](const Accessible::Sight &candidate) {
+            return candidate.role == "push button"_L1 && candidate.name.contains(mira);
         };
         const auto person = browser ? browser->find(isMira) : std::nullopt;
         return person && person->press();

@@ -68,9 +68,9 @@ std::optional<Accessible> VexalProcess::focus() const
 bool VexalProcess::says(const QString &sentence) const
 {
     const auto program = m_desk.program(id());
-    return program && program->find([&](const Accessible &candidate) {
-        const QString role = candidate.role(); // a banner, or a toast
-        return (role == "alert message"_L1 || role == "notification"_L1) && candidate.name().contains(sentence);
+    return program && program->find([&](const Accessible::Sight &candidate) {
+        const bool isTold = candidate.role == "alert message"_L1 || candidate.role == "notification"_L1;
+        return isTold && candidate.name.contains(sentence); // a banner, or a toast
     });
 }
 
