@@ -87,6 +87,14 @@ public:
     {
         QTest::keyClick(&m_window, key, modifiers);
     }
+    /// Holds the key down until it has repeated three times.
+    void hold(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyPress(&m_window, key, modifiers);
+        for (int i = 0; i < 3; ++i)
+            QTest::simulateEvent(&m_window, true, key, modifiers, {}, true);
+        QTest::keyRelease(&m_window, key, modifiers);
+    }
 
 private:
     static void collect(QQuickItem *item, const QByteArray &type, QList<QQuickItem *> &found)

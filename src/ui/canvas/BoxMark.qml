@@ -20,6 +20,11 @@ Item {
 
     z: root.mark.layer
 
+    // A key that is held down asks once.
+    function enter(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            root.toggled();
+    }
     // The lines lie on whole pixels, so that all four sides look the same.
     function onPixelGrid(points: real): real {
         return Math.round(points * Screen.devicePixelRatio) / Screen.devicePixelRatio;
@@ -83,9 +88,9 @@ Item {
             Accessible.selectable: true
             Accessible.selected: root.mark.selected
             Accessible.onPressAction: root.toggled()
-            Keys.onSpacePressed: root.toggled()
-            Keys.onReturnPressed: root.toggled()
-            Keys.onEnterPressed: root.toggled()
+            Keys.onSpacePressed: event => root.enter(event)
+            Keys.onReturnPressed: event => root.enter(event)
+            Keys.onEnterPressed: event => root.enter(event)
             onActiveFocusChanged: {
                 if (box.activeFocus)
                     root.reached();

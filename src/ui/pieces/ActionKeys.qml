@@ -14,6 +14,7 @@ Item {
             Shortcut {
                 sequences: key.modelData.sequences
                 enabled: key.modelData.enabled
+                autoRepeat: key.modelData.repeats
                 onActivated: key.modelData.trigger()
             }
         }

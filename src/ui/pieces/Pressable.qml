@@ -29,6 +29,12 @@ Item {
             root.clicked();
     }
 
+    /// A key that is held down presses once.
+    function enter(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            root.press();
+    }
+
     activeFocusOnTab: true
     scale: root.pressed ? Theme.pressedScale : 1
 
@@ -51,8 +57,8 @@ Item {
         root.keyDown = false;
         root.press();
     }
-    Keys.onReturnPressed: root.press()
-    Keys.onEnterPressed: root.press()
+    Keys.onReturnPressed: event => root.enter(event)
+    Keys.onEnterPressed: event => root.enter(event)
 
     MouseArea {
         id: area

@@ -5,11 +5,12 @@
 
 namespace vexal {
 
-Action::Action(const QString &name, const QStringList &sequences, const QString &section, QObject *parent)
+Action::Action(const QString &name, const QStringList &sequences, const QString &section, Held held, QObject *parent)
     : QObject(parent)
     , m_name(name)
     , m_sequences(sequences)
     , m_section(section)
+    , m_held(held)
 {
 }
 

@@ -20,18 +20,23 @@ class Action : public QObject
     Q_PROPERTY(QString name READ name CONSTANT FINAL)
     Q_PROPERTY(QVariantList sequences READ sequences CONSTANT FINAL)
     Q_PROPERTY(QString section READ section CONSTANT FINAL)
+    Q_PROPERTY(bool repeats READ repeats CONSTANT FINAL)
     Q_PROPERTY(bool enabled READ enabled NOTIFY enabledChanged FINAL)
     Q_PROPERTY(bool checked READ checked NOTIFY checkedChanged FINAL)
 
 public:
+    /// What its keys do when they are held down: ask once, or go on asking as a step or a degree does.
+    enum class Held { AsksOnce, Repeats };
+
     /// `name` as a menu says it; `sequences` the keys that ask for it, as in "Ctrl+N"; `section` the part of the menu
     /// that it stands in, none for what is not in the menu.
-    Action(const QString &name, const QStringList &sequences, const QString &section, QObject *parent);
+    Action(const QString &name, const QStringList &sequences, const QString &section, Held held, QObject *parent);
 
     QString name() const { return m_name; }
     /// The keys that ask for it, each a text as in "Ctrl+N".
     QVariantList sequences() const { return {m_sequences.cbegin(), m_sequences.cend()}; }
     QString section() const { return m_section; }
+    bool repeats() const { return m_held == Held::Repeats; }
     /// Somebody answers.
     bool enabled() const { return m_enabled; }
 
@@ -56,6 +61,7 @@ private:
     QString m_name;
     QStringList m_sequences;
     QString m_section;
+    Held m_held;
     bool m_enabled = false;
     bool m_checked = false;
     QList<OnAction *> m_places;

@@ -43,7 +43,8 @@ public:
 
 private:
     QQmlListProperty<Action> listInQml() { return {this, &m_all}; }
-    Action *add(const QString &name, const QStringList &sequences, const QString &section = {});
+    Action *add(const QString &name, const QStringList &sequences, const QString &section = {},
+                Action::Held held = Action::Held::AsksOnce);
 
     QList<Action *> m_all;
     Action *m_about;

@@ -1,6 +1,7 @@
 #include "inspectorscreen.h"
 
 #include <QAccessible>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void anotherFileBeginsFolded();
     void aNewBoardRebuildsNoCard();
     void ofManyCardsOnlyThoseNearTheColumnAreBuilt();
+    void aKeyThatIsHeldJudgesOnce();
     void arrowsGoFromCardToCard();
     void anotherPageIsTurnedTo();
     void theNoticeStandsOverAPageThatWasRead();
@@ -284,6 +286,19 @@ void JudgingTest::ofManyCardsOnlyThoseNearTheColumnAreBuilt()
     QCOMPARE(last->text(QAccessible::Name), u"Title of f299"_s);
     last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(m_on->focus(), m_on->card(u"Title of f299"_s));
+}
+
+void JudgingTest::aKeyThatIsHeldJudgesOnce()
+{
+    show(detailOf({found(u"a"_s, u"words"_s)}));
+    QQuickItem *issue = InspectorScreen::named(m_on->card(u"Title of a"_s), u"issue"_s);
+    issue->forceActiveFocus(Qt::TabFocusReason);
+    QSignalSpy judged(m_on->card(u"Title of a"_s), SIGNAL(judged(QString)));
+    m_on->screen->hold(Qt::Key_Return);
+    QCOMPARE(judged.size(), 1);
+    QTRY_VERIFY(!issue->property("busy").toBool());
+    m_on->screen->hold(Qt::Key_Space);
+    QCOMPARE(judged.size(), 2);
 }
 
 void JudgingTest::arrowsGoFromCardToCard()

@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 void ActionsTest::anActionThatNobodyAnswersIsDisabled()
 {
-    Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, nullptr);
+    Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, Action::Held::AsksOnce, nullptr);
     QSignalSpy changes(&action, &Action::enabledChanged);
     QVERIFY(!action.enabled());
     action.trigger();
@@ -38,7 +38,7 @@ void ActionsTest::anActionThatNobodyAnswersIsDisabled()
 
 void ActionsTest::theOneThatCameLastAnswers()
 {
-    Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, nullptr);
+    Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, Action::Held::AsksOnce, nullptr);
     OnAction first;
     first.setAction(&action);
     OnAction second;
@@ -55,7 +55,7 @@ void ActionsTest::theOneThatCameLastAnswers()
 
 void ActionsTest::aPlaceThatIsGoneAnswersNoMore()
 {
-    Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, nullptr);
+    Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, Action::Held::AsksOnce, nullptr);
     {
         OnAction place;
         place.setAction(&action);
@@ -69,7 +69,7 @@ void ActionsTest::thePlaceMayOutliveTheTable()
 {
     OnAction place;
     {
-        Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, nullptr);
+        Action action(u"Turn"_s, {u"Ctrl+T"_s}, {}, Action::Held::AsksOnce, nullptr);
         place.setAction(&action);
     }
     QVERIFY(!place.action());

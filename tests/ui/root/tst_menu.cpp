@@ -53,6 +53,8 @@ private Q_SLOTS:
     void escapeClosesTheMenuBeforeAnythingBehindIt();
     void signedOutTheMenuStillOpens();
     void theShortcutsAct();
+    void aKeyThatIsHeldAsksOnce();
+    void aKeyThatIsHeldTurnsPageAfterPage();
     void theirNeighboursDoNot();
     void markReviewedWithTwoFilesDoesNothing();
     void aTextFieldKeepsItsTypingAndTheShortcutsStillAct();
@@ -270,6 +272,25 @@ void MenuTest::theShortcutsAct()
     QVERIFY(m_live->store.showActivity());
     m_screen->press(Qt::Key_Y, Qt::ControlModifier);
     QVERIFY(!m_live->store.showActivity());
+}
+
+void MenuTest::aKeyThatIsHeldAsksOnce()
+{
+    show();
+    m_screen->hold(Qt::Key_Y, Qt::ControlModifier);
+    QVERIFY(m_live->store.showActivity());
+}
+
+void MenuTest::aKeyThatIsHeldTurnsPageAfterPage()
+{
+    m_live = std::make_unique<LiveStore>(aBoard({aFile(u"a"_s)}));
+    m_live->details.insert(u"a"_s, aDetail(u"a"_s, 6));
+    m_live->serveDetail(u"a"_s);
+    m_live->begin();
+    open({1180, 720});
+    QTRY_VERIFY(m_live->store.details().contains(u"a"_s));
+    m_screen->hold(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(m_live->store.shownPage(u"a"_s), 4);
 }
 
 void MenuTest::theirNeighboursDoNot()
