@@ -50,8 +50,7 @@ Item {
             width: place.width
             height: place.height
             radius: 3
-            color: root.tone
-            opacity: 0.1
+            color: Appearance.faded(root.tone, 0.1)
         }
     }
     Repeater {
@@ -61,8 +60,7 @@ Item {
             objectName: "halo"
             place: CanvasGeometry.boxOnPane(modelData, root.width, root.height)
             line: root.mark.selected ? 5 : 4
-            color: Theme.paper
-            opacity: 0.9
+            color: Appearance.faded(Theme.paper, 0.9)
         }
     }
     Repeater {

@@ -46,8 +46,7 @@ Column {
                 width: modelData.width + 2
                 height: modelData.height
                 radius: 2.5
-                color: side.ground
-                opacity: side.wash
+                color: Appearance.faded(side.ground, side.wash)
             }
         }
     }

@@ -22,11 +22,16 @@ Stack {
     readonly property int stretch: Math.floor(root.view.contentY / 200)
     readonly property real sight: root.view.height
 
+    /// What has the keyboard keeps its card out of sight as well.
+    property FindingPlace kept: null
+
     spacing: 8
     onStretchChanged: root.build()
     onSightChanged: root.build()
     onFoldedChanged: root.build()
     onPlaced: root.build()
+    onApproached: place => root.give(place as FindingPlace)
+    onReceded: place => root.leave(place as FindingPlace)
 
     Accessible.role: Accessible.List
     Accessible.name: "Findings"
@@ -38,33 +43,91 @@ Stack {
     /// Goes to the card by keyboard.
     function step(index: int) {
         const place = places.itemAt(index) as FindingPlace;
-        if (place)
-            place.enter();
+        if (!place)
+            return;
+        root.give(place);
+        place.card.forceActiveFocus(Qt.TabFocusReason);
     }
     function build() {
-        if (root.folded)
+        // What is not placed yet stands at the top, as if all of it were in sight.
+        if (root.folded || !root.isSettled())
             return;
         const from = root.mapFromItem(root.view, 0, -root.ahead).y;
-        const to = from + root.sight + 2 * root.ahead;
-        for (let i = 0; i < places.count; ++i) {
-            const place = places.itemAt(i) as FindingPlace;
-            const near = place.y < to && place.y + place.height > from;
-            // What has the keyboard stays.
-            if (place.built !== near)
-                place.built = near || place.activeFocus;
-        }
+        root.look(from, from + root.sight + 2 * root.ahead);
+        if (root.kept === null || root.kept.activeFocus)
+            return;
+        if (!root.isWithin(root.kept))
+            root.take(root.kept);
+        root.kept = null;
+    }
+    /// Has a card stand there: one that nobody needs, which shows another row at a fraction of what a new one costs.
+    function give(place: FindingPlace) {
+        if (place.card !== null)
+            return;
+        if (spare.children.length === 0)
+            maker.createObject(spare, {"row": place.row});
+        const card = spare.children[0] as StandingCard;
+        card.row = place.row;
+        card.place = place;
+        card.parent = place;
+        place.card = card;
+        card.keepRoom();
+    }
+    function leave(place: FindingPlace) {
+        if (place.activeFocus)
+            root.kept = place;
+        else
+            root.take(place);
+    }
+    function take(place: FindingPlace) {
+        if (place.card === null)
+            return;
+        const card = place.card as StandingCard;
+        place.card = null;
+        card.place = null;
+        card.parent = spare;
     }
 
+    FocusScope {
+        id: spare
+        visible: false
+    }
+    Component {
+        id: maker
+        StandingCard {
+            id: card
+            width: root.width
+            compact: root.compact
+            onFocusRequested: Store.focusFinding(card.row.key)
+            onJudged: state => root.state.judge(card.row.key, state)
+            onNoteRequested: Store.answerFinding(card.row.key)
+
+            Keys.onUpPressed: root.step(card.place.index - 1)
+            Keys.onDownPressed: root.step(card.place.index + 1)
+
+            NoteList {
+                width: parent.width
+                topPadding: count > 0 ? 9 : 0
+                state: root.state
+                model: root.state.notesOn(card.row.key)
+            }
+        }
+    }
     Repeater {
         id: places
         model: root.model
+        onItemAdded: (index, place) => {
+            // Those that are seen at first are there at first.
+            if (index < 6 && !root.compact)
+                root.give(place as FindingPlace);
+        }
+        onItemRemoved: (index, place) => root.take(place as FindingPlace)
         FindingPlace {
             id: place
             width: root.width
-            state: root.state
             compact: root.compact
             onIndexChanged: root.arrange()
-            onStepped: by => root.step(place.index + by)
+            onSought: root.step(place.index)
         }
     }
 }

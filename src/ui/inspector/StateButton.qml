@@ -28,8 +28,7 @@ Pressable {
         visible: !root.on
         anchors.fill: parent
         radius: root.radius
-        color: root.tint.plain
-        opacity: root.pressed ? Theme.pressedWash : root.hovered ? Theme.stateHoverWash : Theme.stateWash
+        color: Appearance.faded(root.tint.plain, root.pressed ? Theme.pressedWash : root.hovered ? Theme.stateHoverWash : Theme.stateWash)
     }
     Solid {
         visible: root.on

@@ -12,7 +12,7 @@ void Stack::setSpacing(qreal spacing)
     if (m_spacing == spacing)
         return;
     m_spacing = spacing;
-    polish();
+    arrange();
     Q_EMIT spacingChanged();
 }
 
@@ -20,11 +20,37 @@ void Stack::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
     if (change == ItemChildAddedChange) {
-        connect(data.item, &QQuickItem::heightChanged, this, &QQuickItem::polish);
-        polish();
+        connect(data.item, &QQuickItem::heightChanged, this, &Stack::arrange);
+        arrange();
     } else if (change == ItemChildRemovedChange) {
         data.item->disconnect(this);
-        polish();
+        m_within.remove(data.item);
+        arrange();
+    }
+}
+
+void Stack::arrange()
+{
+    m_settled = false;
+    polish();
+}
+
+void Stack::look(qreal from, qreal to)
+{
+    QList<QQuickItem *> gone, come;
+    const QList<QQuickItem *> children = childItems();
+    for (QQuickItem *child : children) {
+        const bool isNear = child->height() > 0 && child->y() < to && child->y() + child->height() > from;
+        if (isNear != m_within.contains(child))
+            (isNear ? come : gone).append(child);
+    }
+    for (QQuickItem *child : gone) {
+        m_within.remove(child);
+        Q_EMIT receded(child);
+    }
+    for (QQuickItem *child : come) {
+        m_within.insert(child);
+        Q_EMIT approached(child);
     }
 }
 
@@ -39,6 +65,7 @@ void Stack::updatePolish()
         end = child->y() + child->height();
     }
     setImplicitHeight(end);
+    m_settled = true;
     Q_EMIT placed();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQuickItem>
+#include <QSet>
 #include <QtQml/qqmlregistration.h>
 
 namespace vexal {
@@ -22,12 +23,23 @@ public:
 
     /// Places the children anew before the next frame. To be asked for when they have changed their order; their
     /// heights and what comes and goes is seen to.
-    Q_INVOKABLE void arrange() { polish(); }
+    Q_INVOKABLE void arrange();
+
+    /// Nothing has come, gone or changed its height since the children were placed.
+    Q_INVOKABLE bool isSettled() const { return m_settled; }
+
+    /// Looks at the stretch between two heights: says of every child with a height that has left it since the last
+    /// look, then of every one that has come into it.
+    Q_INVOKABLE void look(qreal from, qreal to);
+    /// The child was in the stretch at the last look.
+    Q_INVOKABLE bool isWithin(QQuickItem *child) const { return m_within.contains(child); }
 
 Q_SIGNALS:
     void spacingChanged();
     /// Every child is where it belongs.
     void placed();
+    void approached(QQuickItem *child);
+    void receded(QQuickItem *child);
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
@@ -35,6 +47,8 @@ protected:
 
 private:
     qreal m_spacing = 0;
+    bool m_settled = true;
+    QSet<QQuickItem *> m_within;
 };
 
 } // namespace vexal

@@ -65,6 +65,12 @@ QEasingCurve Appearance::curve()
     return curve;
 }
 
+QColor Appearance::faded(QColor colour, qreal opacity)
+{
+    colour.setAlphaF(float(colour.alphaF() * opacity));
+    return colour;
+}
+
 QFont Appearance::face(qreal size, int weight, qreal tracking)
 {
     return vexal::face(size, static_cast<QFont::Weight>(weight), tracking);

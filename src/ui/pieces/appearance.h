@@ -58,6 +58,10 @@ public:
     Q_INVOKABLE static QColor colour(vexal::Role::Value role, bool dark) { return vexal::colour(role, dark); }
     Q_INVOKABLE static vexal::Tint tint(vexal::Tone::Value tone, bool dark) { return vexal::tint(tone, dark); }
 
+    /// The colour at that much of its opacity. What is of one colour throughout takes it so, and not as an item's
+    /// opacity: shapes of different opacities are never drawn together, and a page may have hundreds.
+    Q_INVOKABLE static QColor faded(QColor colour, qreal opacity);
+
     /// The window's typeface at a size in points of the screen, rounded; tracking is in points too.
     Q_INVOKABLE static QFont face(qreal size, int weight, qreal tracking);
 

@@ -39,7 +39,7 @@ public:
     /// The card of the finding; null when it is not shown.
     QQuickItem *card(const QString &title) const
     {
-        for (QQuickItem *card : screen->all("FindingCard")) {
+        for (QQuickItem *card : screen->all("StandingCard")) {
             if (named(card, QStringLiteral("title"))->property("text") == title)
                 return card;
         }

@@ -4,6 +4,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace vexal;
 using test::InspectorScreen;
@@ -52,6 +54,7 @@ private Q_SLOTS:
     void aNewBoardRebuildsNoCard();
     void ofManyCardsOnlyThoseNearTheColumnAreBuilt();
     void aKeyThatIsHeldJudgesOnce();
+    void aCardThatIsScrolledAwayShowsAnother();
     void arrowsGoFromCardToCard();
     void anotherPageIsTurnedTo();
     void theNoticeStandsOverAPageThatWasRead();
@@ -250,7 +253,7 @@ void JudgingTest::aNewBoardRebuildsNoCard()
     FileDetail detail = detailOf({found(u"b"_s, u"fonts"_s), found(u"new"_s, u"words"_s), found(u"a"_s, u"words"_s)});
     detail.findings[0].title = u"Another title"_s;
     m_on->live.store.takeDetail(u"f"_s, detail);
-    QTRY_COMPARE(m_on->screen->all("FindingCard").size(), 3);
+    QTRY_COMPARE(m_on->screen->all("StandingCard").size(), 3);
     QCOMPARE(m_on->card(u"Title of a"_s), first.data());
     QCOMPARE(m_on->card(u"Another title"_s), last.data());
     QTRY_VERIFY(last->mapToScene({}).y() < first->mapToScene({}).y());
@@ -262,7 +265,7 @@ void JudgingTest::ofManyCardsOnlyThoseNearTheColumnAreBuilt()
     for (int i = 0; i < 300; ++i)
         findings.append(found(u"f%1"_s.arg(i), u"words"_s));
     show(detailOf(findings), {330, 600});
-    const auto built = [this] { return m_on->screen->all("FindingCard").size(); };
+    const auto built = [this] { return m_on->screen->all("StandingCard").size(); };
     QTRY_VERIFY(built() > 8 && built() < 30);
     m_on->live.store.focusFinding(u"f150"_s);
     QTRY_VERIFY(m_on->card(u"Title of f150"_s));
@@ -299,6 +302,39 @@ void JudgingTest::aKeyThatIsHeldJudgesOnce()
     QTRY_VERIFY(!issue->property("busy").toBool());
     m_on->screen->hold(Qt::Key_Space);
     QCOMPARE(judged.size(), 2);
+}
+
+void JudgingTest::aCardThatIsScrolledAwayShowsAnother()
+{
+    QList<Finding> findings;
+    for (int i = 0; i < 300; ++i)
+        findings.append(found(u"f%1"_s.arg(i), u"words"_s));
+    findings.append(found(u"last"_s, u"fonts"_s));
+    show(detailOf(findings), {330, 600});
+    QTRY_VERIFY(m_on->card(u"Title of f3"_s));
+    const auto made = [this] {
+        const auto items = m_on->screen->window().contentItem()->findChildren<QQuickItem *>();
+        return std::ranges::count_if(items, [](const QQuickItem *item) {
+            return QByteArray(item->metaObject()->className()).startsWith("StandingCard_QML");
+        });
+    };
+    QVERIFY(made() < 30);
+    const auto headings = [this] { return m_on->screen->all("GroupHeader"); };
+    QCOMPARE(headings().size(), 1);
+    m_on->live.store.focusFinding(u"last"_s);
+    QTRY_VERIFY(m_on->card(u"Title of last"_s));
+    QTRY_VERIFY(!m_on->card(u"Title of f3"_s));
+    QCOMPARE(headings().size(), 1);
+    const QQuickItem *last = m_on->card(u"Title of last"_s);
+    QCOMPARE(headings().first()->mapToItem(last, QPointF()), QPointF(0, -22));
+    for (int i = 0; i < 300; i += 10) {
+        m_on->live.store.focusFinding(u"f%1"_s.arg(i));
+        QTRY_VERIFY(m_on->card(u"Title of f%1"_s.arg(i)));
+    }
+    QVERIFY(made() < 40);
+    // It judges what it shows now.
+    m_on->screen->click(InspectorScreen::named(m_on->card(u"Title of f290"_s), u"issue"_s));
+    QCOMPARE(state(290), u"issue"_s);
 }
 
 void JudgingTest::arrowsGoFromCardToCard()
@@ -393,7 +429,7 @@ void JudgingTest::textsFromOutsideStayTextAndStayInTheColumn()
     detail.comments = {note};
     show(detail);
     labelsAreTextInTheColumn();
-    QQuickItem *card = m_on->screen->only("FindingCard");
+    QQuickItem *card = m_on->screen->only("StandingCard");
     QVERIFY2(card->height() < 1500, qPrintable(QString::number(card->height())));
     for (const auto *name : {"ours", "theirs"}) {
         const QQuickItem *side = m_on->named(QString::fromLatin1(name));

@@ -38,14 +38,13 @@ TestCase {
         const piece = make();
         const wash = findChild(piece, "wash");
         verify(wash.visible);
-        compare(wash.color, Theme.issue.plain);
-        compare(wash.opacity, 0.11);
+        compare(wash.color, Appearance.faded(Theme.issue.plain, 0.11));
         compare(label(piece).color, Theme.issue.ink);
         verify(!findChild(piece, "solid").visible);
         mouseMove(piece, 10, 10);
-        compare(wash.opacity, 0.18);
+        compare(wash.color, Appearance.faded(Theme.issue.plain, 0.18));
         mousePress(piece, 10, 10);
-        compare(wash.opacity, 0.24);
+        compare(wash.color, Appearance.faded(Theme.issue.plain, 0.24));
         mouseRelease(piece, 10, 10);
     }
 

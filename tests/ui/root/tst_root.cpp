@@ -145,7 +145,7 @@ void RootTest::whatIsShownComesAndGoesWithoutAWarning()
     detail.comments = {{.id = u"n"_s, .file_id = u"a"_s, .page = 0, .finding_id = u"x"_s, .text = u"Why?"_s}};
     m_store->takeSample(sample);
     show();
-    QTRY_COMPARE(m_screen->all("FindingCard").size(), 1);
+    QTRY_COMPARE(m_screen->all("StandingCard").size(), 1);
     // Another chosen as well, then none; the screen asks QTest to fail on a warning.
     for (const QString &toggled : {u"b"_s, u"b"_s, u"a"_s, u"a"_s}) {
         m_store->selectFile(toggled, true);
@@ -274,7 +274,7 @@ void RootTest::aTextOfAMegabyteReachesNoScreenWhole()
     QVERIFY(QQuickTest::qWaitForPolish(&m_screen->window()));
     for (const QString &text : m_screen->texts())
         QVERIFY2(text.size() < 10 * longestShown, qPrintable(text.left(40)));
-    QCOMPARE(m_screen->all("FindingCard").size(), 1);
+    QCOMPARE(m_screen->all("StandingCard").size(), 1);
     QCOMPARE(m_screen->all("NoteRow").size(), 1);
     QVERIFY2(since.elapsed() < 10'000, qPrintable(QString::number(since.elapsed())));
 }
