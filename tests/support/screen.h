@@ -40,8 +40,14 @@ public:
         m_window.resize(size);
         m_window.setContent(QUrl(), m_component.get(), root);
         m_window.show();
-        m_window.requestActivate();
-        if (!QTest::qWaitForWindowActive(&m_window))
+        // Another test on the same display may take the keyboard at the same moment.
+        const auto isActive = [this] {
+            if (!m_window.isActive())
+                m_window.requestActivate();
+            return m_window.isActive() && m_window.isExposed();
+        };
+        constexpr int patience = 60'000; // milliseconds
+        if (!QTest::qWaitFor(isActive, patience))
             qFatal("the window never came up");
     }
 

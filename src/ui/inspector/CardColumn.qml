@@ -71,7 +71,6 @@ Stack {
         card.place = place;
         card.parent = place;
         place.card = card;
-        card.keepRoom();
     }
     function leave(place: FindingPlace) {
         if (place.activeFocus)

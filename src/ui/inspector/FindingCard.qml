@@ -16,6 +16,8 @@ Item {
     signal focusRequested
     signal judged(state: string)
     signal noteRequested
+    /// All of the row has its place, and the card its height.
+    signal laidOut
 
     readonly property tint tint: Theme.tint(root.row.tone)
     /// Judged fine, and nobody is at it: it steps back.
@@ -74,6 +76,7 @@ Item {
         x: 12
         y: 12
         width: parent.width - 24
+        onPositioningComplete: root.laidOut()
 
         SeverityLine {
             visible: !root.compact

@@ -89,6 +89,7 @@ FocusScope {
             if (root.wanted)
                 root.reveal(root.wanted);
         }
+        onMovementStarted: root.wanted = null
 
         Column {
             id: sheet

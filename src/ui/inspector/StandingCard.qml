@@ -11,14 +11,12 @@ FindingCard {
     property FindingPlace place: null
     readonly property bool begins: root.place !== null && root.place.begins
 
-    /// Tells its place how high it is.
-    function keepRoom() {
+    y: root.place !== null ? root.place.above : 0
+    // Its height says nothing before: it may be that of another row, or of none.
+    onLaidOut: {
         if (root.place !== null)
             root.place.room = root.height;
     }
-
-    y: root.place !== null ? root.place.above : 0
-    onHeightChanged: root.keepRoom()
 
     // The notes on the finding are what is put into a card; this is beside them.
     data: [

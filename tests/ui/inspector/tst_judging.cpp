@@ -277,7 +277,8 @@ void JudgingTest::ofManyCardsOnlyThoseNearTheColumnAreBuilt()
         m_on->screen->press(Qt::Key_Down);
     QCOMPARE(m_on->focus(), m_on->card(u"Title of f170"_s));
     QTRY_VERIFY(built() < 40);
-    // What has the keyboard stays, however far it is scrolled away.
+    // What has the keyboard stays, however far it is scrolled away, once the column has come to the focused card.
+    QTRY_VERIFY(!m_on->screen->window().rootObject()->property("wanted").value<QQuickItem *>());
     m_on->named(u"column"_s)->setProperty("contentY", 0);
     QTRY_VERIFY(m_on->card(u"Title of f0"_s));
     QCOMPARE(m_on->focus(), m_on->card(u"Title of f170"_s));
@@ -327,6 +328,9 @@ void JudgingTest::aCardThatIsScrolledAwayShowsAnother()
     QCOMPARE(headings().size(), 1);
     const QQuickItem *last = m_on->card(u"Title of last"_s);
     QCOMPARE(headings().first()->mapToItem(last, QPointF()), QPointF(0, -22));
+    // Each is as high as what it shows now.
+    const QQuickItem *place = last->parentItem();
+    QTRY_COMPARE(place->height(), last->y() + last->height());
     for (int i = 0; i < 300; i += 10) {
         m_on->live.store.focusFinding(u"f%1"_s.arg(i));
         QTRY_VERIFY(m_on->card(u"Title of f%1"_s.arg(i)));
