@@ -52,8 +52,12 @@ Stack {
         // What is not placed yet stands at the top, as if all of it were in sight.
         if (root.folded || !root.isSettled())
             return;
+        root.release();
         const from = root.mapFromItem(root.view, 0, -root.ahead).y;
         root.look(from, from + root.sight + 2 * root.ahead);
+    }
+    /// Takes the card that was kept for the keyboard alone, once that is elsewhere.
+    function release() {
         if (root.kept === null || root.kept.activeFocus)
             return;
         if (!root.isWithin(root.kept))
@@ -115,11 +119,6 @@ Stack {
     Repeater {
         id: places
         model: root.model
-        onItemAdded: (index, place) => {
-            // Those that are seen at first are there at first.
-            if (index < 6 && !root.compact)
-                root.give(place as FindingPlace);
-        }
         onItemRemoved: (index, place) => root.take(place as FindingPlace)
         FindingPlace {
             id: place

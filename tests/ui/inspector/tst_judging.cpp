@@ -290,6 +290,9 @@ void JudgingTest::ofManyCardsOnlyThoseNearTheColumnAreBuilt()
     QCOMPARE(last->text(QAccessible::Name), u"Title of f299"_s);
     last->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(m_on->focus(), m_on->card(u"Title of f299"_s));
+    // Where the keyboard was, nothing is kept any longer.
+    QTRY_VERIFY(!m_on->card(u"Title of f170"_s));
+    QVERIFY(built() < 40);
 }
 
 void JudgingTest::aKeyThatIsHeldJudgesOnce()
