@@ -42,25 +42,12 @@ Item {
         state: root.state
         roomy: root.roomy
     }
-    Row {
+    ReportWords {
         id: report
         anchors.right: actions.right
         anchors.verticalCenter: facts.verticalCenter
         visible: !root.roomy
-        spacing: 7
-        Label {
-            visible: root.state.report.failed
-            text: "The last report didn't finish."
-            size: 11.5
-            color: Theme.issue.ink
-        }
-        Label {
-            visible: text.length > 0
-            width: Math.min(implicitWidth, 240)
-            text: root.state.report.by
-            size: 11.5
-            color: Theme.secondary
-        }
+        report: root.state.report
     }
     Label {
         id: facts

@@ -16,20 +16,10 @@ Row {
     Accessible.role: Accessible.ToolBar
     Accessible.name: "Review"
 
-    Label {
+    ReportWords {
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.roomy && root.report.failed
-        text: "The last report didn't finish."
-        size: 11.5
-        color: Theme.issue.ink
-    }
-    Label {
-        anchors.verticalCenter: parent.verticalCenter
-        visible: root.roomy && root.report.report.length > 0
-        width: Math.min(implicitWidth, 240)
-        text: root.report.by
-        size: 11.5
-        color: Theme.secondary
+        visible: root.roomy && (root.report.failed || root.report.by.length > 0)
+        report: root.report
     }
     Pill {
         objectName: "open"
